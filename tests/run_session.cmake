@@ -1,0 +1,24 @@
+# Plays one session script and compares its transcript with the expected one.
+get_filename_component(dir ${SCRIPT} DIRECTORY)
+get_filename_component(name ${SCRIPT} NAME_WE)
+set(expected_file ${dir}/${name}.expected)
+string(RANDOM LENGTH 8 tag)
+set(settings_file $ENV{TMPDIR})
+if(NOT settings_file)
+  set(settings_file /tmp)
+endif()
+set(ENV{TARNWELL_SETTINGS} ${settings_file}/tarnwell-session-${name}-${tag}.ini)
+execute_process(
+  COMMAND ${TARNWELL} run ${SCRIPT}
+  WORKING_DIRECTORY ${SOURCE_DIR}
+  OUTPUT_VARIABLE actual ERROR_VARIABLE errors RESULT_VARIABLE rc)
+file(REMOVE $ENV{TARNWELL_SETTINGS})
+if(NOT EXISTS ${expected_file})
+  message(FATAL_ERROR "No expected transcript ${expected_file}. Actual:\n${actual}${errors}")
+endif()
+file(READ ${expected_file} expected)
+if(NOT actual STREQUAL expected)
+  file(WRITE ${settings_file}/${name}.actual "${actual}")
+  execute_process(COMMAND diff -u ${expected_file} ${settings_file}/${name}.actual OUTPUT_VARIABLE d)
+  message(FATAL_ERROR "Transcript differs from ${expected_file} (rc ${rc}):\n${d}\n${errors}")
+endif()

@@ -1,0 +1,155 @@
+#pragma once
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ui/Platform.h"
+
+namespace ui {
+
+enum class ControlKind { Button, CheckBox, OptionButton, TextBox, Label, ListBox, ComboBox, Picture, Frame };
+const char* KindName(ControlKind kind);
+
+enum class EventKind { Click, DblClick, Change, LostFocus, MouseUp };
+const char* EventName(EventKind kind);
+
+class Form;
+
+// A control as the user sees it. The renderer mirrors this state; no logic lives here.
+class Control {
+public:
+    Control(Form& owner, std::string name, ControlKind kind, std::string caption);
+
+    const std::string& Name() const { return name_; }
+    ControlKind Kind() const { return kind_; }
+
+    // Caption of buttons, labels, frames, check and option buttons; text of text boxes
+    // and combo boxes. Writing a label's caption is reported to the platform.
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(const std::string& caption);
+    const std::string& Text() const { return caption_; }
+    void SetText(const std::string& text);  // raises Change when the text differs
+
+    // Check box 0/1 (2 grey); option button 0/-1. Setting an option button clears its
+    // siblings in the same group.
+    int Value() const { return value_; }
+    void SetValue(int value);
+
+    bool Enabled = true;
+    bool Visible = true;
+    bool Locked = false;
+    std::string ToolTipText;
+    std::string Group;  // option buttons of one group exclude each other
+    std::string Picture;  // what a picture box shows
+    int Left = 0, Top = 0, Width = 0, Height = 0;  // twips
+
+    // List and combo boxes.
+    std::vector<std::string> Items;
+    int ListIndex = -1;
+    void Clear() { Items.clear(); ListIndex = -1; }
+    void AddItem(const std::string& item) { Items.push_back(item); }
+
+    bool HasFocus() const;
+    void SetFocus();
+
+private:
+    Form& owner_;
+    std::string name_;
+    ControlKind kind_;
+    std::string caption_;
+    int value_ = 0;
+};
+
+// A menu item, or one element of a menu item array (Index >= 0).
+struct MenuItem {
+    std::string Name;
+    int Index = -1;
+    std::string Caption;
+    std::string Parent;  // name of the menu it sits in; "" for the menu bar
+    bool Checked = false;
+    bool Enabled = true;
+    bool Visible = true;
+};
+
+// A dialog. A subclass declares its controls and menus in Build(), which runs on each
+// load (an unloaded form comes back as designed), and binds handlers once in its
+// constructor. Handlers are named after control and event (cmdClone_Click).
+class Form {
+public:
+    Form(Platform& platform, std::string name, std::string caption);
+    virtual ~Form();
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const std::string& Name() const { return name_; }
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(const std::string& caption) { caption_ = caption; }
+    Platform& platform() { return platform_; }
+
+    bool Loaded() const { return loaded_; }
+    bool Visible() const { return visible_; }
+    bool Modal() const { return modal_; }
+
+    void Load();                 // builds and raises Form_Load once until unloaded
+    void Show(bool modal = false);  // loads if needed; a modal show returns when the form closes
+    void Hide();
+    // Asks Form_QueryUnload, then unloads; false when the form refused.
+    bool Unload();
+    // The form became the active window (shown, or brought back by the user).
+    void Activate();
+
+    int Left = 0, Top = 0, Width = 6000, Height = 4000;  // twips
+
+    Control& operator[](const std::string& name);  // throws when the form has no such control
+    Control* Find(const std::string& name);
+    const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
+    MenuItem& Menu(const std::string& name, int index = -1);
+    const std::vector<MenuItem>& Menus() const { return menus_; }
+    std::vector<MenuItem*> MenuArray(const std::string& name);
+
+    // The user's doing: raise an event on a control or menu item. Errors that no handler
+    // caught go to the platform's error report.
+    void Raise(const std::string& control, EventKind kind, int index = -1);
+    void ClickMenu(const std::string& menu, int index = -1);
+    bool HasHandler(const std::string& control, EventKind kind) const;
+
+    const std::string& FocusedControl() const { return focus_; }
+    void SetFocusTo(const std::string& control) { focus_ = control; }
+
+protected:
+    // Declares the controls and menus; runs on each load.
+    virtual void Build() = 0;
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    // Set cancel to true to refuse closing.
+    virtual void Form_QueryUnload(bool& cancel) { (void)cancel; }
+    virtual void Form_Unload() {}
+
+    Control& Add(const std::string& name, ControlKind kind, const std::string& caption = "");
+    MenuItem& AddMenu(const std::string& name, const std::string& caption, const std::string& parent = "",
+                      int index = -1);
+
+    using Handler = std::function<void(int index)>;
+    void On(const std::string& control, EventKind kind, Handler handler);
+    void OnMenu(const std::string& menu, Handler handler);
+
+private:
+    friend class Control;
+    void Dispatch(const std::string& key, int index);
+    Platform& platform_;
+    std::string name_;
+    std::string designCaption_;
+    std::string caption_;
+    bool loaded_ = false;
+    bool visible_ = false;
+    bool modal_ = false;
+    std::string focus_;
+    std::vector<std::unique_ptr<Control>> controls_;
+    std::vector<MenuItem> menus_;
+    std::map<std::string, Handler> handlers_;
+};
+
+}  // namespace ui
