@@ -1,8 +1,8 @@
 #include "addin/AddinState.h"
 
 #include "host/Application.h"
-#include "host/Document.h"
 #include "host/Component.h"
+#include "host/Document.h"
 #include "settings/Settings.h"
 #include "support/Error.h"
 
@@ -13,7 +13,9 @@ AddinState::AddinState(Environment env)
 
 AddinState::~AddinState() = default;
 
-host::Application& AddinState::App() { return *support::Required(app, "host application"); }
+host::Application& AddinState::App() {
+    return *support::Required(app, "host application");
+}
 
 std::string AddinState::GetSetting(const std::string& section, const std::string& key,
                                    const std::string& defaultValue) const {

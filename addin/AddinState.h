@@ -45,8 +45,8 @@ public:
     settings::Store& settings;
     host::FileSystem& fileSystem;
 
-    std::shared_ptr<host::Application> app;                      // set by Activate
-    std::shared_ptr<host::Document> workingDocument;             // the document a dialog works on
+    std::shared_ptr<host::Application> app;                         // set by Activate
+    std::shared_ptr<host::Document> workingDocument;                // the document a dialog works on
     std::shared_ptr<host::ComponentOccurrence> selectedOccurrence;  // null: the top-level document
     VbBool mainDialogOpen = kVbFalse;
     std::int32_t deletedComponents = 0;  // shown by the delete-invisible dialog

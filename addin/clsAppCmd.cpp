@@ -31,8 +31,12 @@ struct Placement {
     int command;  // 1 main, 2 part, 3 drawing
 };
 constexpr Placement kPlacements[] = {
-    {"DLxDrawingAnnotationPanelCmdBar", 3}, {"DLxDrawingViewsPanelCmdBar", 3}, {"AMxAssemblyPanelCmdBar", 1},
-    {"AMxWeldmentCmdBar", 1},               {"PMxPartFeatureCmdBar", 2},       {"MBxSheetMetalFeatureCmdBar", 2},
+    {"DLxDrawingAnnotationPanelCmdBar", 3},
+    {"DLxDrawingViewsPanelCmdBar", 3},
+    {"AMxAssemblyPanelCmdBar", 1},
+    {"AMxWeldmentCmdBar", 1},
+    {"PMxPartFeatureCmdBar", 2},
+    {"MBxSheetMetalFeatureCmdBar", 2},
 };
 
 constexpr const char* kAssemblyRequired = "An assembly document must be active.";
@@ -98,16 +102,20 @@ void clsAppCmd::Activate(host::AddInSite& addInSiteObject, bool /*firstTime*/) {
 
 void clsAppCmd::SubscribeButtons() {
     if (oButtonHandler1)
-        click1_ = oButtonHandler1->OnExecute().Subscribe([this] { Guarded(&clsAppCmd::oButtonHandler1_OnClick); });
+        click1_ =
+            oButtonHandler1->OnExecute().Subscribe([this] { Guarded(&clsAppCmd::oButtonHandler1_OnClick); });
     if (oButtonHandler2)
-        click2_ = oButtonHandler2->OnExecute().Subscribe([this] { Guarded(&clsAppCmd::oButtonHandler2_OnClick); });
+        click2_ =
+            oButtonHandler2->OnExecute().Subscribe([this] { Guarded(&clsAppCmd::oButtonHandler2_OnClick); });
     if (obuttonHandlerIDW)
-        clickIDW_ =
-            obuttonHandlerIDW->OnExecute().Subscribe([this] { Guarded(&clsAppCmd::obuttonHandlerIDW_OnClick); });
+        clickIDW_ = obuttonHandlerIDW->OnExecute().Subscribe(
+            [this] { Guarded(&clsAppCmd::obuttonHandlerIDW_OnClick); });
 }
 
 void clsAppCmd::Place(const std::string& barName, int command) {
-    const auto& definition = command == 1 ? oButtonHandler1 : command == 2 ? oButtonHandler2 : obuttonHandlerIDW;
+    const auto& definition = command == 1   ? oButtonHandler1
+                             : command == 2 ? oButtonHandler2
+                                            : obuttonHandlerIDW;
     auto bar = state_.App().UserInterfaceManager()->CommandBars()->Item(barName);
     bar->Controls()->Add(host::kBarControlButton, support::Required(definition, "button definition"));
 }
@@ -192,14 +200,17 @@ void clsAppCmd::oButtonHandler2_OnClick() {
     state_.Dialog<properties::frmPartProps>().Show(false);
 }
 
-void clsAppCmd::obuttonHandlerIDW_OnClick() { state_.Dialog<properties::frmIDW>().Show(false); }
+void clsAppCmd::obuttonHandlerIDW_OnClick() {
+    state_.Dialog<properties::frmIDW>().Show(false);
+}
 
 void clsAppCmd::oDoneButton_OnClick() {
     state_.Dialog<dialogs::frmPreview>().Unload();
     state_.mainDialogOpen = kVbFalse;
 }
 
-void clsAppCmd::oContextMenu_OnContextMenu(std::int32_t /*selectionDevice*/, host::ObjectPtr /*additionalInfo*/,
+void clsAppCmd::oContextMenu_OnContextMenu(std::int32_t /*selectionDevice*/,
+                                           host::ObjectPtr /*additionalInfo*/,
                                            std::shared_ptr<host::CommandBar> /*commandBar*/) {
     if (state_.mainDialogOpen) return;
     // The popup target is never assigned, so this call always fails and the menu stays

@@ -20,8 +20,10 @@ void clsPickOccur::StartPick(std::int32_t filter) {
     onTerminate_ = interaction_->OnTerminate().Subscribe([this] { selecting_ = kVbFalse; });
     interaction_->SetSelectionEnabled(true);
     selection_ = interaction_->SelectEvents();
-    onSelect_ = selection_->OnSelect().Subscribe([this](const host::ObjectList& picked) { OnSelect(picked); });
-    onPreSelect_ = selection_->OnPreSelect().Subscribe([this](host::ObjectPtr) { selection_->ResetPreSelection(); });
+    onSelect_ =
+        selection_->OnSelect().Subscribe([this](const host::ObjectList& picked) { OnSelect(picked); });
+    onPreSelect_ =
+        selection_->OnPreSelect().Subscribe([this](host::ObjectPtr) { selection_->ResetPreSelection(); });
     selection_->AddSelectionFilter(filter);
     interaction_->Start();
 }

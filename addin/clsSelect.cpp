@@ -13,7 +13,8 @@ host::ObjectPtr clsSelect::Pick(std::int32_t filter) {
     onTerminate_ = interaction_->OnTerminate().Subscribe([this] { bStillSelecting = kVbFalse; });
     interaction_->SetSelectionEnabled(true);
     selection_ = interaction_->SelectEvents();
-    onSelect_ = selection_->OnSelect().Subscribe([this](const host::ObjectList&) { bStillSelecting = kVbFalse; });
+    onSelect_ =
+        selection_->OnSelect().Subscribe([this](const host::ObjectList&) { bStillSelecting = kVbFalse; });
     selection_->AddSelectionFilter(filter);
     interaction_->Start();
 

@@ -9,7 +9,9 @@
 namespace settings {
 
 namespace {
-std::string HeaderOf(const std::string& app, const std::string& section) { return app + "\\" + section; }
+std::string HeaderOf(const std::string& app, const std::string& section) {
+    return app + "\\" + section;
+}
 
 std::string TrimBlanks(const std::string& s) {
     auto b = s.find_first_not_of(" \t\r");
@@ -19,7 +21,9 @@ std::string TrimBlanks(const std::string& s) {
 }
 }  // namespace
 
-IniFileStore::IniFileStore(std::filesystem::path file) : file_(std::move(file)) { Load(); }
+IniFileStore::IniFileStore(std::filesystem::path file) : file_(std::move(file)) {
+    Load();
+}
 
 std::filesystem::path IniFileStore::DefaultPath() {
     if (const char* p = std::getenv("TARNWELL_SETTINGS"); p && *p) return p;
@@ -81,7 +85,9 @@ void IniFileStore::Write() const {
                                  "Cannot write settings file " + file_.string());
     }
     std::filesystem::rename(temp, file_, ec);
-    if (ec) throw support::Error(support::errors::kPermissionDenied, "Cannot write settings file " + file_.string());
+    if (ec)
+        throw support::Error(support::errors::kPermissionDenied,
+                             "Cannot write settings file " + file_.string());
 }
 
 }  // namespace settings

@@ -4,33 +4,51 @@ namespace ui {
 
 const char* KindName(ControlKind kind) {
     switch (kind) {
-        case ControlKind::Button: return "button";
-        case ControlKind::CheckBox: return "check";
-        case ControlKind::OptionButton: return "option";
-        case ControlKind::TextBox: return "text";
-        case ControlKind::Label: return "label";
-        case ControlKind::ListBox: return "list";
-        case ControlKind::ComboBox: return "combo";
-        case ControlKind::Picture: return "picture";
-        case ControlKind::Frame: return "frame";
+        case ControlKind::Button:
+            return "button";
+        case ControlKind::CheckBox:
+            return "check";
+        case ControlKind::OptionButton:
+            return "option";
+        case ControlKind::TextBox:
+            return "text";
+        case ControlKind::Label:
+            return "label";
+        case ControlKind::ListBox:
+            return "list";
+        case ControlKind::ComboBox:
+            return "combo";
+        case ControlKind::Picture:
+            return "picture";
+        case ControlKind::Frame:
+            return "frame";
     }
     return "control";
 }
 
 const char* EventName(EventKind kind) {
     switch (kind) {
-        case EventKind::Click: return "Click";
-        case EventKind::DblClick: return "DblClick";
-        case EventKind::Change: return "Change";
-        case EventKind::LostFocus: return "LostFocus";
-        case EventKind::MouseUp: return "MouseUp";
+        case EventKind::Click:
+            return "Click";
+        case EventKind::DblClick:
+            return "DblClick";
+        case EventKind::Change:
+            return "Change";
+        case EventKind::LostFocus:
+            return "LostFocus";
+        case EventKind::MouseUp:
+            return "MouseUp";
     }
     return "Event";
 }
 
 namespace {
-std::string HandlerKey(const std::string& control, EventKind kind) { return control + "_" + EventName(kind); }
-std::string MenuKey(const std::string& menu) { return menu + "_Click"; }
+std::string HandlerKey(const std::string& control, EventKind kind) {
+    return control + "_" + EventName(kind);
+}
+std::string MenuKey(const std::string& menu) {
+    return menu + "_Click";
+}
 }  // namespace
 
 Control::Control(Form& owner, std::string name, ControlKind kind, std::string caption)
@@ -38,7 +56,8 @@ Control::Control(Form& owner, std::string name, ControlKind kind, std::string ca
 
 void Control::SetCaption(const std::string& caption) {
     caption_ = caption;
-    if (kind_ == ControlKind::Label && owner_.Loaded()) owner_.platform().LabelChanged(owner_, name_, caption_);
+    if (kind_ == ControlKind::Label && owner_.Loaded())
+        owner_.platform().LabelChanged(owner_, name_, caption_);
 }
 
 void Control::SetText(const std::string& text) {
@@ -66,8 +85,12 @@ void Control::SetValue(int value) {
         owner_.Dispatch(HandlerKey(name_, EventKind::Click), -1);
 }
 
-bool Control::HasFocus() const { return owner_.FocusedControl() == name_; }
-void Control::SetFocus() { owner_.SetFocusTo(name_); }
+bool Control::HasFocus() const {
+    return owner_.FocusedControl() == name_;
+}
+void Control::SetFocus() {
+    owner_.SetFocusTo(name_);
+}
 
 Form::Form(Platform& platform, std::string name, std::string caption)
     : platform_(platform), name_(std::move(name)), designCaption_(caption), caption_(std::move(caption)) {}
@@ -136,8 +159,9 @@ Control* Form::Find(const std::string& name) {
 MenuItem& Form::Menu(const std::string& name, int index) {
     for (auto& m : menus_)
         if (m.Name == name && m.Index == index) return m;
-    throw support::Error(support::errors::kInvalidCall,
-                         "Form " + name_ + " has no menu " + name + (index >= 0 ? "(" + std::to_string(index) + ")" : ""));
+    throw support::Error(
+        support::errors::kInvalidCall,
+        "Form " + name_ + " has no menu " + name + (index >= 0 ? "(" + std::to_string(index) + ")" : ""));
 }
 
 std::vector<MenuItem*> Form::MenuArray(const std::string& name) {
@@ -152,7 +176,8 @@ Control& Form::Add(const std::string& name, ControlKind kind, const std::string&
     return *controls_.back();
 }
 
-MenuItem& Form::AddMenu(const std::string& name, const std::string& caption, const std::string& parent, int index) {
+MenuItem& Form::AddMenu(const std::string& name, const std::string& caption, const std::string& parent,
+                        int index) {
     menus_.push_back(MenuItem{name, index, caption, parent});
     return menus_.back();
 }
@@ -161,7 +186,9 @@ void Form::On(const std::string& control, EventKind kind, Handler handler) {
     handlers_[HandlerKey(control, kind)] = std::move(handler);
 }
 
-void Form::OnMenu(const std::string& menu, Handler handler) { handlers_[MenuKey(menu)] = std::move(handler); }
+void Form::OnMenu(const std::string& menu, Handler handler) {
+    handlers_[MenuKey(menu)] = std::move(handler);
+}
 
 bool Form::HasHandler(const std::string& control, EventKind kind) const {
     return handlers_.count(HandlerKey(control, kind)) != 0;
@@ -178,7 +205,8 @@ void Form::Raise(const std::string& control, EventKind kind, int index) {
         throw support::Error(support::errors::kInvalidCall,
                              "Control " + name_ + "." + control + " is not enabled or not visible");
     try {
-        if (kind == EventKind::Click && (c.Kind() == ControlKind::CheckBox || c.Kind() == ControlKind::OptionButton)) {
+        if (kind == EventKind::Click &&
+            (c.Kind() == ControlKind::CheckBox || c.Kind() == ControlKind::OptionButton)) {
             // A click on a check box toggles it, on an option button selects it; both raise Click.
             int before = c.Value();
             c.SetValue(c.Kind() == ControlKind::CheckBox ? (before ? 0 : 1) : -1);
@@ -194,7 +222,8 @@ void Form::Raise(const std::string& control, EventKind kind, int index) {
 
 void Form::ClickMenu(const std::string& menu, int index) {
     auto& m = Menu(menu, index);
-    if (!m.Enabled) throw support::Error(support::errors::kInvalidCall, "Menu " + name_ + "." + menu + " is not enabled");
+    if (!m.Enabled)
+        throw support::Error(support::errors::kInvalidCall, "Menu " + name_ + "." + menu + " is not enabled");
     try {
         Dispatch(MenuKey(menu), index);
     } catch (const support::Error& e) {

@@ -42,14 +42,17 @@ public:
     bool Visible = true;
     bool Locked = false;
     std::string ToolTipText;
-    std::string Group;  // option buttons of one group exclude each other
-    std::string Picture;  // what a picture box shows
+    std::string Group;                             // option buttons of one group exclude each other
+    std::string Picture;                           // what a picture box shows
     int Left = 0, Top = 0, Width = 0, Height = 0;  // twips
 
     // List and combo boxes.
     std::vector<std::string> Items;
     int ListIndex = -1;
-    void Clear() { Items.clear(); ListIndex = -1; }
+    void Clear() {
+        Items.clear();
+        ListIndex = -1;
+    }
     void AddItem(const std::string& item) { Items.push_back(item); }
 
     bool HasFocus() const;
@@ -93,7 +96,7 @@ public:
     bool Visible() const { return visible_; }
     bool Modal() const { return modal_; }
 
-    void Load();                 // builds and raises Form_Load once until unloaded
+    void Load();                    // builds and raises Form_Load once until unloaded
     void Show(bool modal = false);  // loads if needed; a modal show returns when the form closes
     void Hide();
     // Asks Form_QueryUnload, then unloads; false when the form refused.

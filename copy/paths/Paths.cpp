@@ -11,8 +11,8 @@ SplitPathResult SplitPath(const std::string& fullFileName) {
     return {fullFileName.substr(0, last + 1), fullFileName.substr(last + 1)};
 }
 
-std::string BrowseForFolder(host::Application& hostApplication, ui::Platform& platform, const std::string& prompt,
-                            const std::string& startFolder) {
+std::string BrowseForFolder(host::Application& hostApplication, ui::Platform& platform,
+                            const std::string& prompt, const std::string& startFolder) {
     std::intptr_t owner = 0;
     if (auto view = hostApplication.ActiveView()) owner = view->HWND();
     std::string chosen = platform.BrowseForFolder(owner, prompt, startFolder);

@@ -18,8 +18,8 @@ struct SplitPathResult {
 SplitPathResult SplitPath(const std::string& fullFileName);
 
 // The shell's folder picker, owned by the host's active view; "" when cancelled.
-std::string BrowseForFolder(host::Application& hostApplication, ui::Platform& platform, const std::string& prompt,
-                            const std::string& startFolder);
+std::string BrowseForFolder(host::Application& hostApplication, ui::Platform& platform,
+                            const std::string& prompt, const std::string& startFolder);
 
 // The host's save dialog titled "Save Inventor File": the filter follows the last three
 // letters of the current name, compared exactly ("ipt", "iam"; anything else, no filter);

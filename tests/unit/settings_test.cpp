@@ -1,0 +1,56 @@
+#include "settings/Settings.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+class SettingsTest : public ::testing::Test {
+protected:
+    std::filesystem::path dir =
+        std::filesystem::temp_directory_path() /
+        ("tarnwell-settings-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+         ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    std::filesystem::path file = dir / "nested" / "settings.ini";
+    void TearDown() override { std::filesystem::remove_all(dir); }
+};
+
+TEST_F(SettingsTest, DefaultsUntilSavedThenPersistsAcrossStores) {
+    {
+        settings::IniFileStore store(file);
+        EXPECT_EQ(store.GetSetting("Tarnwell", "PreSufxClone", "Prefix", "!New-"), "!New-");
+        store.SaveSetting("Tarnwell", "PreSufxClone", "Prefix", "");
+        store.SaveSetting("Tarnwell", "PreSufxClone", "TargetDir", "C:\\Temp\\Out = here");
+        store.SaveSetting("Tarnwell", "Preview", "DialogTop", "1200");
+    }
+    settings::IniFileStore reread(file);
+    // An empty saved value is a value, not a missing key.
+    EXPECT_EQ(reread.GetSetting("Tarnwell", "PreSufxClone", "Prefix", "!New-"), "");
+    EXPECT_EQ(reread.GetSetting("Tarnwell", "PreSufxClone", "TargetDir"), "C:\\Temp\\Out = here");
+    EXPECT_EQ(reread.GetSetting("Tarnwell", "Preview", "DialogTop"), "1200");
+    // Sections and applications do not leak into each other.
+    EXPECT_EQ(reread.GetSetting("Tarnwell", "PartProps", "DialogTop", "0"), "0");
+    EXPECT_EQ(reread.GetSetting("Other", "Preview", "DialogTop", "x"), "x");
+    EXPECT_FALSE(std::filesystem::exists(file.string() + ".tmp"));
+}
+
+TEST_F(SettingsTest, RefusesLineBreaksAndKeepsTheFileWhole) {
+    settings::IniFileStore store(file);
+    store.SaveSetting("Tarnwell", "GetColors", "ColorsTemplate", "C:\\T.ipt");
+    EXPECT_THROW(store.SaveSetting("Tarnwell", "GetColors", "ColorsTemplate", "a\nb"), std::exception);
+    EXPECT_EQ(settings::IniFileStore(file).GetSetting("Tarnwell", "GetColors", "ColorsTemplate"),
+              "C:\\T.ipt");
+}
+
+TEST_F(SettingsTest, DefaultPathFollowsTheEnvironment) {
+    setenv("TARNWELL_SETTINGS", (dir / "x.ini").c_str(), 1);
+    EXPECT_EQ(settings::IniFileStore::DefaultPath(), dir / "x.ini");
+    unsetenv("TARNWELL_SETTINGS");
+    setenv("XDG_CONFIG_HOME", dir.c_str(), 1);
+    EXPECT_EQ(settings::IniFileStore::DefaultPath(), dir / "tarnwell" / "settings.ini");
+    unsetenv("XDG_CONFIG_HOME");
+}
+
+}  // namespace
