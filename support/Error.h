@@ -23,10 +23,10 @@ namespace errors {
 inline constexpr std::int32_t kUnexpected = static_cast<std::int32_t>(0x8000FFFF);  // E_UNEXPECTED
 inline constexpr std::int32_t kFail = static_cast<std::int32_t>(0x80004005);        // E_FAIL
 inline constexpr std::int32_t kInvalidArg = static_cast<std::int32_t>(0x80070057);  // E_INVALIDARG
-inline constexpr std::int32_t kObjectNotSet = 91;        // "Object variable not set"
+inline constexpr std::int32_t kObjectNotSet = 91;  // "Object variable not set"
 inline constexpr std::int32_t kTypeMismatch = 13;
 inline constexpr std::int32_t kOverflow = 6;
-inline constexpr std::int32_t kInvalidCall = 5;          // "Invalid procedure call or argument"
+inline constexpr std::int32_t kInvalidCall = 5;  // "Invalid procedure call or argument"
 inline constexpr std::int32_t kFileNotFound = 53;
 inline constexpr std::int32_t kPathNotFound = 76;
 inline constexpr std::int32_t kPermissionDenied = 70;

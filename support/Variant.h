@@ -53,7 +53,9 @@ public:
     std::shared_ptr<Object> ToObject() const;
 
     template <class T>
-    const T* As() const { return std::get_if<T>(&v_); }
+    const T* As() const {
+        return std::get_if<T>(&v_);
+    }
 
     // A readable form for transcripts: the type and the value, e.g. currency 12.5000.
     std::string Describe() const;
@@ -61,8 +63,8 @@ public:
     friend bool operator==(const Variant& a, const Variant& b) { return a.v_ == b.v_; }
 
 private:
-    std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, Currency, Date,
-                 std::string, std::shared_ptr<Object>>
+    std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, Currency, Date, std::string,
+                 std::shared_ptr<Object>>
         v_;
 };
 
