@@ -11,13 +11,13 @@
 // Locale rules are fixed to en-US so that runs repeat exactly on any machine.
 namespace support {
 
-std::string Left(std::string_view s, long n);   // n < 0 is an invalid-call error
+std::string Left(std::string_view s, long n);  // n < 0 is an invalid-call error
 std::string Right(std::string_view s, long n);
-std::string Mid(std::string_view s, long start);  // the rest from start; start >= 1
+std::string Mid(std::string_view s, long start);               // the rest from start; start >= 1
 std::string Mid(std::string_view s, long start, long length);  // length < 0 is an invalid-call error
 long InStr(std::string_view haystack, std::string_view needle, long start = 1);  // 0 when absent
 long InStrRev(std::string_view haystack, std::string_view needle);
-std::string Trim(std::string_view s);   // spaces only, as the platform does
+std::string Trim(std::string_view s);  // spaces only, as the platform does
 std::string LTrim(std::string_view s);
 std::string RTrim(std::string_view s);
 std::string UCase(std::string_view s);
@@ -30,12 +30,12 @@ double Val(std::string_view s);
 // IsNumeric with en-US rules: optional blanks, sign, thousands separators ",",
 // one ".", exponent, a leading "$"; empty text is not numeric.
 bool IsNumeric(std::string_view s);
-std::optional<double> ParseNumber(std::string_view s);  // the same rules, the value
+std::optional<double> ParseNumber(std::string_view s);      // the same rules, the value
 std::optional<Currency> ParseCurrency(std::string_view s);  // numeric and in currency range
 
 // Double to text with 15 significant digits and no trailing zeros ("12.5", "1E+20").
 std::string NumberToText(double d);
-std::string CurrencyToText(Currency c);  // "12.5"
+std::string CurrencyToText(Currency c);           // "12.5"
 std::string FormatFixed(double d, int decimals);  // Format(d, "0.000000") with 6
 
 // Dates, en-US: "M/D/YYYY", "M/D/YY", "YYYY-MM-DD", month names ("Jan 5, 2024"),
