@@ -1,0 +1,141 @@
+#include "copy/BaseAssemblyForm.h"
+
+#include <memory>
+
+#include "copy/paths/Paths.h"
+#include "host/Application.h"
+#include "host/Codes.h"
+#include "host/Component.h"
+#include "host/Document.h"
+#include "support/Variant.h"
+
+namespace copy {
+
+using ui::ControlKind;
+using ui::EventKind;
+
+namespace {
+// Marks a pick as waiting for as long as it waits, also when it fails.
+struct PickingScope {
+    explicit PickingScope(bool& flag) : flag(flag) { flag = true; }
+    ~PickingScope() { flag = false; }
+    bool& flag;
+};
+}  // namespace
+
+BaseAssemblyForm::BaseAssemblyForm(addin::AddinState& state, std::string name, std::string caption)
+    : ui::Form(state.platform, std::move(name), std::move(caption)), state_(state), select_(state) {
+    On("cmdSelect", EventKind::Click, [this](int) { SelectAssembly(); });
+    On("chkTop", EventKind::Click, [this](int) { chkTop_Click(); });
+    On("cmdBrowse", EventKind::Click, [this](int) { cmdBrowse_Click(); });
+    On("cmdDone", EventKind::Click, [this](int) { cmdDone_Click(); });
+}
+
+void BaseAssemblyForm::AddBaseAssemblyControls() {
+    Add("fraBaseAssembly", ControlKind::Frame, "Base Assembly");
+    Add("chkTop", ControlKind::CheckBox, "Top");
+    Add("txtBaseAssembly", ControlKind::TextBox);
+    Add("cmdSelect", ControlKind::Button, "Select Assembly");
+}
+
+void BaseAssemblyForm::AddTargetControls() {
+    Add("fraTargetDirectory", ControlKind::Frame, "Target Directory");
+    Add("txtTargetDir", ControlKind::TextBox);
+    Add("cmdBrowse", ControlKind::Button).Picture = "folder";
+}
+
+void BaseAssemblyForm::AddCommandControls(const std::string& executeCaption) {
+    Add("cmdClone", ControlKind::Button, executeCaption);
+    Add("cmdDone", ControlKind::Button, "Done");
+    Add("Status", ControlKind::Label, "Status");
+}
+
+void BaseAssemblyForm::ShowStatus(const std::string& text) {
+    if (!Loaded()) Load();
+    (*this)["Status"].SetCaption(text);
+    state_.platform.DoEvents();
+}
+
+void BaseAssemblyForm::SelectAssembly() {
+    (*this)["cmdSelect"].Enabled = false;
+    if (picking_) {
+        select_.bStillSelecting = addin::kVbTrue;
+        return;
+    }
+    host::ObjectPtr picked;
+    {
+        PickingScope scope(picking_);
+        picked = select_.Pick(host::kAssemblyOccurrenceFilter);
+    }
+    // Controls are looked up again: the user may have closed and reopened the dialog
+    // while the pick waited.
+    if (auto occurrence = std::dynamic_pointer_cast<host::ComponentOccurrence>(picked)) {
+        state_.selectedOccurrence = occurrence;
+        ShowBaseAssembly(occurrence->Definition()->Document()->FullFileName());
+    }
+    StopPick();
+    (*this)["cmdSelect"].Enabled = true;
+}
+
+void BaseAssemblyForm::StopPick() {
+    select_.bStillSelecting = addin::kVbFalse;
+}
+
+void BaseAssemblyForm::ShowBaseAssembly(const std::string& fullFileName) {
+    auto& box = (*this)["txtBaseAssembly"];
+    box.SetText(SplitPath(fullFileName).fileName);
+    box.ToolTipText = fullFileName;
+}
+
+bool BaseAssemblyForm::CheckBaseAssembly() {
+    if (state_.selectedOccurrence) return true;
+    if (!TopChecked()) {
+        state_.platform.MsgBox("No Assembly Selected, Please select an Assembly or pick Top Level");
+        return false;
+    }
+    if (!state_.App().ActiveDocument()) {
+        state_.platform.MsgBox("You must have a document open");
+        return false;
+    }
+    return true;
+}
+
+void BaseAssemblyForm::chkTop_Click() {
+    auto active = state_.App().ActiveDocument();
+    if (TopChecked()) {
+        if (!active) {
+            state_.platform.MsgBox("You must have an active document");
+            StopPick();
+            (*this)["cmdSelect"].Enabled = true;
+            (*this)["chkTop"].SetValue(0);
+            return;
+        }
+        ShowBaseAssembly(active->FullFileName());
+        StopPick();
+        (*this)["cmdSelect"].Enabled = false;
+        return;
+    }
+    (*this)["cmdSelect"].Enabled = true;
+    if (active) SelectAssembly();
+}
+
+void BaseAssemblyForm::cmdBrowse_Click() {
+    std::string folder =
+        BrowseForFolder(state_.App(), state_.platform, "Directory", (*this)["txtTargetDir"].Text());
+    if (!folder.empty()) (*this)["txtTargetDir"].SetText(folder);
+}
+
+void BaseAssemblyForm::cmdDone_Click() {
+    Unload();
+    state_.platform.AppActivate(state_.App().Caption());
+}
+
+bool BaseAssemblyForm::SettingToBool(const std::string& text, bool defaultValue) {
+    try {
+        return support::Variant(text).ToBool();
+    } catch (const support::Error&) {
+        return defaultValue;
+    }
+}
+
+}  // namespace copy

@@ -1,0 +1,53 @@
+#pragma once
+#include <string>
+
+#include "addin/AddinState.h"
+#include "addin/clsSelect.h"
+#include "ui/Form.h"
+
+namespace copy {
+
+// What the clone and Pack-N-Link dialogs share: the base assembly is either the top
+// document ("Top") or an assembly picked in the model ("Select Assembly"), the target
+// is a folder chosen with the folder picker, and a walk reports progress in Status.
+class BaseAssemblyForm : public ui::Form {
+public:
+    // Writes a progress line into Status and yields, so the dialog repaints while a
+    // walk runs. The engine writes here too, loading the dialog if it is not loaded.
+    void ShowStatus(const std::string& text);
+
+protected:
+    BaseAssemblyForm(addin::AddinState& state, std::string name, std::string caption);
+
+    // Declare the shared controls from Build(), in the dialog's layout order.
+    void AddBaseAssemblyControls();                              // chkTop, txtBaseAssembly, cmdSelect
+    void AddTargetControls();                                    // txtTargetDir, cmdBrowse
+    void AddCommandControls(const std::string& executeCaption);  // cmdClone, cmdDone, Status
+
+    // Picks an assembly occurrence in the model and makes it the selected occurrence.
+    // While a pick already waits, asking again keeps that one waiting.
+    void SelectAssembly();
+    void StopPick();
+    void ShowBaseAssembly(const std::string& fullFileName);
+    bool TopChecked() { return (*this)["chkTop"].Value() == 1; }
+    // The first check of Execute: the walk needs a picked assembly or "Top" with an
+    // active document. Shows the message and answers false when it has neither.
+    bool CheckBaseAssembly();
+
+    // Settings keep booleans as the platform writes them ("True"/"False"); older or
+    // hand-written values ("1", "0") read as well, anything else as the default.
+    static bool SettingToBool(const std::string& text, bool defaultValue);
+    static std::string BoolToSetting(bool value) { return value ? "True" : "False"; }
+
+    addin::AddinState& state_;
+
+private:
+    void chkTop_Click();
+    void cmdBrowse_Click();
+    void cmdDone_Click();
+
+    addin::clsSelect select_;
+    bool picking_ = false;
+};
+
+}  // namespace copy

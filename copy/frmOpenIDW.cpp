@@ -1,0 +1,102 @@
+#include "copy/frmOpenIDW.h"
+
+#include "copy/paths/Paths.h"
+#include "host/Application.h"
+#include "host/Document.h"
+#include "host/FileSystem.h"
+#include "properties/AttributeHelpers.h"
+#include "support/Error.h"
+
+namespace copy {
+
+using ui::ControlKind;
+using ui::EventKind;
+
+namespace {
+constexpr const char* kDrawingFilter = "Inventor Drawing Files (*.idw)|*.idw";
+}  // namespace
+
+frmOpenIDW::frmOpenIDW(addin::AddinState& state)
+    : ui::Form(state.platform, "frmOpenIDW", "Link Matching IDW"), state_(state) {
+    On("cmdBrowse", EventKind::Click, [this](int) { cmdBrowse_Click(); });
+    On("cmdOpenIDW", EventKind::Click, [this](int) { cmdOpenIDW_Click(); });
+    On("cmdCancel", EventKind::Click, [this](int) { cmdCancel_Click(); });
+    On("txtDrawingFile", EventKind::Change, [this](int) { UpdateOpenButton(); });
+    On("txtDrawingPath", EventKind::Change, [this](int) { UpdateOpenButton(); });
+}
+
+void frmOpenIDW::Build() {
+    Add("fraModel", ControlKind::Frame, "Model Part / Assembly File");
+    Add("txtModelFile", ControlKind::TextBox);
+    Add("lblModelPath", ControlKind::Label, "Path");
+    Add("txtModelPath", ControlKind::TextBox);
+    Add("fraDrawing", ControlKind::Frame, "Linked Drawing File");
+    Add("txtDrawingFile", ControlKind::TextBox);
+    Add("lblDrawingPath", ControlKind::Label, "Path");
+    Add("txtDrawingPath", ControlKind::TextBox);
+    Add("cmdBrowse", ControlKind::Button, "...");
+    Add("cmdOpenIDW", ControlKind::Button, "Open IDW");
+    Add("cmdCancel", ControlKind::Button, "Close");
+}
+
+void frmOpenIDW::Form_Load() {
+    model_ = support::Required(state_.workingDocument, "working document");
+    auto model = SplitPath(model_->FullFileName());
+    (*this)["txtModelPath"].SetText(model.directory);
+    (*this)["txtModelFile"].SetText(model.fileName);
+
+    std::string drawingFile =
+        properties::GetAttribute(properties::kLinkAttributeSet, *model_, properties::kDrawingFileAttribute);
+    std::string drawingPath =
+        properties::GetAttribute(properties::kLinkAttributeSet, *model_, properties::kDrawingPathAttribute);
+    if (drawingFile.empty()) {
+        // No link kept yet: the host's own guess counts when that file is really there.
+        std::string candidate = state_.App().FileLocations()->FindDrawing(model_->FullFileName(), "iparts");
+        if (!candidate.empty() && state_.fileSystem.FileExists(candidate)) {
+            auto found = SplitPath(candidate);
+            drawingFile = found.fileName;
+            drawingPath = found.directory;
+        }
+    }
+    if (!drawingFile.empty()) (*this)["txtDrawingFile"].SetText(drawingFile);
+    (*this)["txtDrawingPath"].SetText(drawingPath.empty() ? model.directory : drawingPath);
+    UpdateOpenButton();
+}
+
+std::string frmOpenIDW::DrawingFullFileName() {
+    return (*this)["txtDrawingPath"].Text() + (*this)["txtDrawingFile"].Text();
+}
+
+void frmOpenIDW::UpdateOpenButton() {
+    (*this)["cmdOpenIDW"].Enabled =
+        !(*this)["txtDrawingFile"].Text().empty() && state_.fileSystem.FileExists(DrawingFullFileName());
+}
+
+void frmOpenIDW::cmdBrowse_Click() {
+    std::string chosen = OpenFilePrompt(state_.platform, kDrawingFilter, (*this)["txtDrawingPath"].Text(),
+                                        (*this)["txtDrawingFile"].Text(), "Open Drawing File");
+    if (chosen.empty()) return;
+    auto drawing = SplitPath(chosen);
+    auto& app = state_.App();
+    properties::SetAttribute(app, properties::kLinkAttributeSet, *model_, properties::kDrawingFileAttribute,
+                             drawing.fileName);
+    properties::SetAttribute(app, properties::kLinkAttributeSet, *model_, properties::kDrawingPathAttribute,
+                             drawing.directory);
+    (*this)["txtDrawingFile"].SetText(drawing.fileName);
+    (*this)["txtDrawingPath"].SetText(drawing.directory);
+    UpdateOpenButton();
+}
+
+void frmOpenIDW::cmdOpenIDW_Click() {
+    auto& app = state_.App();
+    app.Documents()->Open(DrawingFullFileName(), true);
+    Unload();
+    state_.platform.AppActivate(app.Caption());
+}
+
+void frmOpenIDW::cmdCancel_Click() {
+    Unload();
+    state_.platform.AppActivate(state_.App().Caption());
+}
+
+}  // namespace copy

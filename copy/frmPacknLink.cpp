@@ -1,0 +1,68 @@
+#include "copy/frmPacknLink.h"
+
+#include "copy/modRecurseSaveNReplace.h"
+#include "host/Application.h"
+#include "host/Component.h"
+#include "host/Document.h"
+#include "support/Error.h"
+
+namespace copy {
+
+using ui::ControlKind;
+using ui::EventKind;
+
+namespace {
+constexpr const char* kSection = "PackNLink";
+}  // namespace
+
+// The stored title keeps its misspelling; activation shows "Pack-N-Link " instead.
+frmPacknLink::frmPacknLink(addin::AddinState& state)
+    : BaseAssemblyForm(state, "frmPacknLink", "Pack And Link (to new locaton)") {
+    On("cmdClone", EventKind::Click, [this](int) { cmdClone_Click(); });
+}
+
+void frmPacknLink::Build() {
+    AddBaseAssemblyControls();
+    AddTargetControls();
+    Add("fraDataSource", ControlKind::Frame, "Data Source --> Destination");
+    Add("lblNote", ControlKind::Label, "Memory to disk will reflect current changes");
+    auto& fromMemory = Add("optFromMem", ControlKind::OptionButton, "From Memory to Disk");
+    auto& fromDisk = Add("optFromDisk", ControlKind::OptionButton, "From Disk to Disk");
+    fromMemory.Group = fromDisk.Group = "DataSource";
+    fromMemory.SetValue(-1);
+    AddCommandControls("Execute Pack");
+}
+
+bool frmPacknLink::DiskToDisk() {
+    if (!Loaded()) Load();
+    return (*this)["optFromDisk"].Value() != 0;
+}
+
+void frmPacknLink::Form_Activate() {
+    (*this)["txtTargetDir"].SetText(state_.GetSetting(kSection, "TargetDir", "C:\\Temp"));
+    // One of the two sources is always chosen: a stored "False" picks disk to disk.
+    bool fromMemory = SettingToBool(state_.GetSetting(kSection, "FromTo", "1"), true);
+    (*this)[fromMemory ? "optFromMem" : "optFromDisk"].SetValue(-1);
+    SetCaption("Pack-N-Link ");
+    if (state_.selectedOccurrence)
+        ShowBaseAssembly(state_.selectedOccurrence->Definition()->Document()->FullFileName());
+    else
+        SelectAssembly();
+}
+
+void frmPacknLink::Form_Unload() {
+    state_.SaveSetting(kSection, "TargetDir", (*this)["txtTargetDir"].Text());
+    state_.SaveSetting(kSection, "FromTo", BoolToSetting((*this)["optFromMem"].Value() != 0));
+}
+
+void frmPacknLink::cmdClone_Click() {
+    if (!CheckBaseAssembly()) return;
+    state_.packStop = false;
+    std::string targetDir = (*this)["txtTargetDir"].Text();
+    auto document =
+        TopChecked() ? state_.App().ActiveDocument() : state_.selectedOccurrence->Definition()->Document();
+    PackDocument(state_, *support::Required(document, "base assembly"), targetDir);
+    (*this)["Status"].SetCaption("Finished!");
+}
+
+}  // namespace copy

@@ -1,0 +1,24 @@
+#pragma once
+#include "copy/BaseAssemblyForm.h"
+
+namespace copy {
+
+// Pack-N-Link: copies an assembly and every file it references, names unchanged, into
+// one target folder and relinks the copies, from memory (unsaved edits included) or
+// disk to disk. Its choices persist in "PackNLink".
+class frmPacknLink : public BaseAssemblyForm {
+public:
+    explicit frmPacknLink(addin::AddinState& state);
+    // The data source the packing walk reads: true for "From Disk to Disk".
+    bool DiskToDisk();
+
+protected:
+    void Build() override;
+    void Form_Activate() override;
+    void Form_Unload() override;
+
+private:
+    void cmdClone_Click();
+};
+
+}  // namespace copy

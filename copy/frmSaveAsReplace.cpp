@@ -1,0 +1,102 @@
+#include "copy/frmSaveAsReplace.h"
+
+#include "copy/paths/Paths.h"
+#include "host/Application.h"
+#include "host/Codes.h"
+#include "host/Component.h"
+#include "host/Document.h"
+#include "host/FileSystem.h"
+#include "support/Error.h"
+#include "support/Text.h"
+
+namespace copy {
+
+using ui::ControlKind;
+using ui::EventKind;
+
+namespace {
+constexpr const char* kSection = "SaveAs";
+}  // namespace
+
+frmSaveAsReplace::frmSaveAsReplace(addin::AddinState& state)
+    : ui::Form(state.platform, "frmSaveAsReplace", "Save Copy and Replace"), state_(state), select_(state) {
+    On("cmdSelect", EventKind::Click, [this](int) { cmdSelect_Click(); });
+    On("cmdBrowse", EventKind::Click, [this](int) { cmdBrowse_Click(); });
+    On("MakeIndependent", EventKind::Click, [this](int) { MakeIndependent_Click(); });
+    On("CommandButton1", EventKind::Click, [this](int) { CommandButton1_Click(); });
+}
+
+void frmSaveAsReplace::Build() {
+    Add("cmdSelect", ControlKind::Button, "Select Component to Replace");
+    Add("tbxFullFileName", ControlKind::TextBox);
+    Add("tbxNewFileName", ControlKind::TextBox);
+    Add("cmdBrowse", ControlKind::Button, "Browse");
+    Add("chkReplaceAll", ControlKind::CheckBox, "Replace All");
+    Add("chkBrowserName", ControlKind::CheckBox, "Change Browser Name");
+    Add("MakeIndependent", ControlKind::Button, "Save As and Replace");
+    Add("CommandButton1", ControlKind::Button, "Done");
+}
+
+void frmSaveAsReplace::Form_Load() {
+    state_.platform.SetOwner(*this, state_.App().MainFrameHWND());
+    Top = static_cast<int>(support::Val(state_.GetSetting(kSection, "DialogTop", "0")));
+    Left = static_cast<int>(support::Val(state_.GetSetting(kSection, "DialogLeft", "0")));
+}
+
+void frmSaveAsReplace::Form_Unload() {
+    state_.SaveSetting(kSection, "DialogTop", std::to_string(Top));
+    state_.SaveSetting(kSection, "DialogLeft", std::to_string(Left));
+}
+
+void frmSaveAsReplace::cmdSelect_Click() {
+    auto picked = std::dynamic_pointer_cast<host::ComponentOccurrence>(
+        select_.Pick(host::kAssemblyLeafOccurrenceFilter));
+    if (!picked) {
+        state_.platform.MsgBox("Something went wrong");
+        return;
+    }
+    occurrence_ = picked;
+    document_ = picked->Definition()->Document();
+    (*this)["tbxFullFileName"].SetText(document_->FullFileName());
+    (*this)["tbxNewFileName"].SetText(document_->FullFileName());
+}
+
+void frmSaveAsReplace::cmdBrowse_Click() {
+    const std::string current = (*this)["tbxNewFileName"].Text();
+    std::string chosen = SaveFilePrompt(state_.platform, current, support::Right(current, 3),
+                                        state_.App().FileLocations()->Workspace());
+    if (!chosen.empty()) (*this)["tbxNewFileName"].SetText(chosen);
+}
+
+void frmSaveAsReplace::MakeIndependent_Click() {
+    const std::string oldName = (*this)["tbxFullFileName"].Text();
+    const std::string newName = (*this)["tbxNewFileName"].Text();
+    if (oldName == newName) {
+        state_.platform.MsgBox("Old and New filenames cannot be the same");
+        return;
+    }
+    if (state_.fileSystem.FileExists(newName)) {
+        state_.platform.MsgBox("New File Already exist");
+        return;
+    }
+    if (!occurrence_) {
+        state_.platform.MsgBox("The selection set is either empty or an error has occured");
+        return;
+    }
+    if (newName.empty()) return;
+    try {
+        document_->SaveAs(newName, true);
+    } catch (const support::Error&) {
+        state_.platform.MsgBox("There was an error saving the file.");
+        return;
+    }
+    occurrence_->Replace(newName, (*this)["chkReplaceAll"].Value() == 1);
+    if ((*this)["chkBrowserName"].Value() == 1) occurrence_->SetName("");
+}
+
+void frmSaveAsReplace::CommandButton1_Click() {
+    Unload();
+    state_.platform.AppActivate(state_.App().Caption());
+}
+
+}  // namespace copy
