@@ -1,0 +1,187 @@
+#include "dialogs/main/frmPreview.h"
+
+#include "addin/clsPickOccur.h"
+#include "dialogs/main/Thumbnails.h"
+#include "dialogs/main/UpdateCheck.h"
+#include "host/Application.h"
+#include "host/Codes.h"
+#include "host/Component.h"
+#include "host/Document.h"
+#include "properties/DialogPosition.h"
+#include "properties/PropertyTable.h"
+#include "support/Text.h"
+
+namespace dialogs {
+
+namespace {
+
+constexpr const char* kSection = "Preview";
+constexpr const char* kOrientationKey = "ThumbnailOrient";
+
+}  // namespace
+
+frmPreview::frmPreview(addin::AddinState& state)
+    : ui::Form(state.platform, "frmPreview", "Edit Part and Assembly Properties"), state_(state) {
+    On("ListBox1", ui::EventKind::DblClick, [this](int) { ListBox1_DblClick(); });
+    On("cmdSelect", ui::EventKind::Click, [this](int) { TogglePicking(); });
+    On("cmdCancel", ui::EventKind::Click, [this](int) {
+        Unload();
+        BringHostToFront();
+    });
+    OnMenu("mnoOrient", [this](int index) {
+        for (auto* item : MenuArray("mnoOrient")) item->Checked = item->Index == index;
+    });
+    OnMenu("mnuAutoUpdate", [this](int) { update_check::CheckForUpdate(state_); });
+    OnMenu("mnuAbout", [this](int) { update_check::ShowAbout(state_); });
+    BindOperations();
+}
+
+frmPreview::~frmPreview() {
+    ReleasePick();
+}
+
+void frmPreview::Build() {
+    Add("ListBox1", ui::ControlKind::ListBox);
+    Add("Picture1", ui::ControlKind::Picture);
+    Add("picLocked", ui::ControlKind::Picture).Visible = false;
+    Add("cmdSelect", ui::ControlKind::Button, "Select");
+    Add("cmdTopLevel", ui::ControlKind::Button, "Top Level");
+    Add("cmdVisible", ui::ControlKind::Button, "Visible");
+    Add("cmdDelete", ui::ControlKind::Button, "Delete");
+    Add("cmdDeleteInvisible", ui::ControlKind::Button, "Delete Invisible Components");
+    Add("cmdMakeLite", ui::ControlKind::Button, "Assy From Vis").ToolTipText =
+        "Create New Assembly from Visible Parts";
+    Add("cmdClone", ui::ControlKind::Button, "CLONE");
+    Add("cmdPackNLink", ui::ControlKind::Button, "Pack-N-Link");
+    Add("cmdOpenIDW", ui::ControlKind::Button, "Open Associated IDW");
+    Add("cmdTopIDW", ui::ControlKind::Button, "Open Top Level IDW");
+    Add("cmdPurge", ui::ControlKind::Button, "Purge Styles");
+    Add("cmdNewThumbnail", ui::ControlKind::Button, "NewThumbnail").ToolTipText =
+        "Make single Thumbnail for Selected Document";
+    Add("cmdMultThumbnail", ui::ControlKind::Button, "Multiple Thumbnails").ToolTipText =
+        "Make Thumbnails for Selected Document and its Children";
+    Add("cmdThumbnailTop", ui::ControlKind::Button, "Do All").ToolTipText =
+        "Make Thumbnails for Top Level assembly and all its Children";
+    BuildNameInBrowserFrame();
+    Add("cmdCancel", ui::ControlKind::Button, "Done");
+    BuildMenus();
+}
+
+void frmPreview::BuildNameInBrowserFrame() {
+    Add("Frame1", ui::ControlKind::Frame, "Name In Browser");
+    for (auto [name, caption] :
+         {std::pair{"OptionButton1", "Default"}, std::pair{"OptionButton2", "Description"},
+          std::pair{"OptionButton3", "Part Number"}})
+        Add(name, ui::ControlKind::OptionButton, caption).Group = "Frame1";
+    (*this)["OptionButton1"].SetValue(-1);
+    Add("Check1", ui::ControlKind::CheckBox, "Do All");
+    Add("Check2", ui::ControlKind::CheckBox, "Top Level");
+    Add("cmdChgBrowser", ui::ControlKind::Button, "Change Now");
+}
+
+void frmPreview::BuildMenus() {
+    AddMenu("mnuOptions", "Options");
+    AddMenu("mnuOrient", "Orientation", "mnuOptions");
+    for (int i = 0; i < thumbnails::kOrientationCount; ++i)
+        AddMenu("mnoOrient", thumbnails::kOrientations[i].caption, "mnuOrient", i);
+    AddMenu("mnuPopUp", "PopUp").Visible = false;  // shown over the list, never in the menu bar
+    AddMenu("mnuLock", "Lock", "mnuPopUp");
+    AddMenu("mnuUnlock", "Unlock", "mnuPopUp");
+    AddMenu("mnuExplorer", "Explore", "mnuPopUp");
+    AddMenu("mnuiPartToNormal", "Convert iPart to Normal", "mnuPopUp");
+    AddMenu("mnuHelp", "Help");
+    AddMenu("mnuAutoUpdate", "AutoUpdate", "mnuHelp");
+    AddMenu("mnuAbout", "About", "mnuHelp");
+}
+
+void frmPreview::Form_Load() {
+    previousOwner_ = state_.platform.SetOwner(*this, state_.App().MainFrameHWND());
+    // A stored index that names no item leaves every item unchecked.
+    auto stored = support::ParseNumber(state_.GetSetting(kSection, kOrientationKey, "0"));
+    for (auto* item : MenuArray("mnoOrient")) item->Checked = stored && *stored == item->Index;
+    pick_ = std::make_unique<addin::clsPickOccur>(state_);
+    picked_ = pick_->OnPicked.Subscribe([this] { OnPicked(); });
+    properties::RestorePosition(state_, *this, kSection);
+}
+
+void frmPreview::Form_Activate() {
+    Refill();
+    TogglePicking();
+}
+
+void frmPreview::Form_QueryUnload(bool& /*cancel*/) {
+    properties::SavePosition(state_, *this, kSection);
+    state_.selectedOccurrence = nullptr;
+    ReleasePick();
+}
+
+// A pick left running would keep the graphics window in select mode with nobody
+// listening, so it is stopped before the pick object goes.
+void frmPreview::ReleasePick() {
+    if (!pick_) return;
+    if (pick_->Selecting()) pick_->StopPick();
+    picked_.Reset();
+    pick_.reset();
+}
+
+std::shared_ptr<host::Document> frmPreview::ShownDocument() {
+    if (!state_.selectedOccurrence) return state_.App().ActiveDocument();
+    return state_.selectedOccurrence->Definition()->Document();
+}
+
+void frmPreview::Refill() {
+    auto shown = ShownDocument();
+    support::Required(shown, "active document");
+    auto rows = properties::ReadPropertyRows(*shown);
+    auto& list = (*this)["ListBox1"];
+    list.ToolTipText = shown->FullFileName();
+    list.Clear();
+    for (const auto& row : rows) list.AddItem(row.label + "\t" + row.value);
+    (*this)["picLocked"].Visible = (shown->DisabledCommandTypes() & host::kShapeEditCmdType) != 0;
+    (*this)["Picture1"].Picture = shown->Thumbnail();
+    (*this)["cmdVisible"].SetFocus();
+}
+
+bool frmPreview::Picking() const {
+    return pick_ && pick_->Selecting();
+}
+
+void frmPreview::TogglePicking() {
+    if (!pick_) return;
+    if (pick_->Selecting()) {
+        (*this)["cmdSelect"].SetCaption("Select");
+        pick_->StopPick();
+    } else {
+        (*this)["cmdSelect"].SetCaption("Stop Select");
+        pick_->StartPick(host::kAssemblyLeafOccurrenceFilter);
+    }
+}
+
+void frmPreview::StopPicking() {
+    if (Picking()) TogglePicking();
+}
+
+int frmPreview::CheckedOrientation() {
+    for (auto* item : MenuArray("mnoOrient"))
+        if (item->Checked) return item->Index;
+    return -1;
+}
+
+// Raised by the host, not through a control: an error goes to the report here.
+void frmPreview::OnPicked() {
+    try {
+        auto occurrence = std::dynamic_pointer_cast<host::ComponentOccurrence>(pick_->oObjectSelected);
+        if (!occurrence) return;
+        state_.selectedOccurrence = occurrence;
+        Refill();
+        (*this)["cmdVisible"].SetCaption(occurrence->Visible() ? "Hide" : "Visible");
+    } catch (const support::Error& e) {
+        state_.platform.ReportError(e);
+    }
+}
+
+void frmPreview::BringHostToFront() {
+    state_.platform.AppActivate(state_.App().Caption());
+}
+
+}  // namespace dialogs
