@@ -1,5 +1,6 @@
 #include "properties/frmPartProps.h"
 
+#include "copy/frmOpenIDW.h"
 #include "copy/paths/Paths.h"
 #include "host/Application.h"
 #include "host/Codes.h"
@@ -141,8 +142,7 @@ void frmPartProps::cmdOpenIDW_Click() {
     state_.workingDocument = state_.App().ActiveDocument();
     Unload();
     BringHostToFront();
-    // "Link Matching IDW" comes with the copy tools; until it is there the button only
-    // hands the document over and closes this dialog.
+    state_.Dialog<copy::frmOpenIDW>().Show(false);
 }
 
 void frmPartProps::cmdCancel_Click() {
