@@ -1,0 +1,70 @@
+// The tarnwell executable: plays a session script against the stand-in host, or reads
+// the same lines from the keyboard.
+#include <unistd.h>
+
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <string>
+
+#include "app/session/LineSource.h"
+#include "app/session/Script.h"
+#include "app/session/Session.h"
+#include "app/session/Verb.h"
+#include "settings/Settings.h"
+#include "ui/headless/ScriptError.h"
+
+namespace {
+
+constexpr const char* kUsage =
+    "usage: tarnwell run SCRIPT   play a session script; the transcript goes to standard output\n"
+    "       tarnwell shell        type the same lines; each effect is printed as it happens\n"
+    "       tarnwell --version\n";
+
+int RunScript(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        std::cerr << "tarnwell: cannot read " << path << "\n";
+        return 1;
+    }
+    std::stringstream text;
+    text << in.rdbuf();
+    std::vector<session::ScriptLine> lines;
+    try {
+        lines = session::ParseScript(text.str());
+        session::CheckScript(lines);
+    } catch (const ui::headless::ScriptError& e) {
+        std::cout << "script error: " << e.Describe() << "\n";
+        std::cerr << "tarnwell: " << path << ": " << e.Describe() << "\n";
+        return 1;
+    }
+    session::Session session(std::cout, settings::IniFileStore::DefaultPath());
+    session::ScriptSource source(std::move(lines));
+    int status = session.Run(source);
+    for (const auto& error : session.Errors()) std::cerr << "tarnwell: " << path << ": " << error << "\n";
+    return status;
+}
+
+int RunShell() {
+    session::Session session(std::cout, settings::IniFileStore::DefaultPath());
+    session::KeyboardSource source(std::cin, std::cout, isatty(STDIN_FILENO) != 0);
+    return session.Run(source);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::string command = argc > 1 ? argv[1] : "";
+    if (command == "--version" && argc == 2) {
+        std::cout << "tarnwell " << TARNWELL_VERSION << "\n";
+        return 0;
+    }
+    if (command == "run" && argc == 3) return RunScript(argv[2]);
+    if (command == "shell" && argc == 2) return RunShell();
+    if (command == "--help" || command == "-h") {
+        std::cout << kUsage;
+        return 0;
+    }
+    std::cerr << kUsage;
+    return 2;
+}

@@ -1,0 +1,103 @@
+// Verbs that write the state of the session into the transcript.
+#include <fstream>
+
+#include "addin/AddinState.h"
+#include "addin/clsAppCmd.h"
+#include "app/session/FormPrinter.h"
+#include "app/session/Session.h"
+#include "app/session/Verb.h"
+#include "host/Application.h"
+#include "host/Document.h"
+#include "ui/Form.h"
+
+namespace session {
+
+using ui::headless::Quote;
+
+namespace {
+
+void PrintForms(Session& s, const Args&) {
+    const auto& forms = s.Platform().LoadedForms();
+    if (forms.empty()) s.Transcript().Write("forms: none loaded");
+    for (const auto* form : forms)
+        s.Transcript().Write("form " + form->Name() + " " + Quote(form->Caption()) +
+                             (!form->Visible() ? " hidden"
+                              : form->Modal()  ? " modal"
+                                               : " modeless"));
+}
+
+void PrintFile(Session& s, const Args& args) {
+    const std::string& path = args.Text(0);
+    auto& files = s.Host().FileSystem();
+    std::string state = !files.FileExists(path)  ? "missing"
+                        : files.IsReadOnly(path) ? "exists read-only"
+                                                 : "exists";
+    s.Transcript().Write("file " + Quote(path) + " " + state);
+}
+
+void Compare(Session& s, const Args& args) {
+    auto& files = s.Host().FileSystem();
+    bool same = files.ReadText(args.Text(0)) == files.ReadText(args.Text(1));
+    s.Transcript().Write("files " + Quote(args.Text(0)) + " and " + Quote(args.Text(1)) +
+                         (same ? " are identical" : " differ"));
+}
+
+void PrintHeld(Session& s, const Args&) {
+    std::string names;
+    for (const auto& name : s.Addin().HeldReferences()) names += (names.empty() ? "" : ", ") + name;
+    s.Transcript().Write("held references: " + (names.empty() ? std::string("none") : names));
+}
+
+void PrintActive(Session& s, const Args&) {
+    auto document = s.Host().Application()->ActiveDocument();
+    s.Transcript().Write("active document " +
+                         (document ? Quote(document->FullFileName()) : std::string("none")));
+}
+
+// Read back from the settings file itself: what a later session will find there.
+void PrintSettings(Session& s, const Args& args) {
+    const std::string header = "[" + std::string(addin::kSettingsApp) + "\\" + args.Text(0) + "]";
+    std::ifstream in(s.Settings().Path());
+    std::string line;
+    bool inSection = false, any = false;
+    while (std::getline(in, line)) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        if (!line.empty() && line.front() == '[') {
+            inSection = line == header;
+            continue;
+        }
+        auto eq = line.find('=');
+        if (!inSection || eq == std::string::npos) continue;
+        s.Transcript().Write("setting " + args.Text(0) + " " + line.substr(0, eq) + " = " +
+                             Quote(line.substr(eq + 1)));
+        any = true;
+    }
+    if (!any) s.Transcript().Write("settings " + args.Text(0) + ": none");
+}
+
+}  // namespace
+
+void AddPrintVerbs(std::vector<Verb>& verbs) {
+    verbs.push_back({"print form", "print form FORM", 1, 1, [](Session& s, const Args& a) {
+                         s.Transcript().Write(DescribeForm(s.LoadedForm(a.Text(0))));
+                     }});
+    verbs.push_back({"print forms", "print forms", 0, 0, PrintForms});
+    verbs.push_back({"print document", "print document PATH", 1, 1, [](Session& s, const Args& a) {
+                         s.Transcript().Write(s.Host().DescribeDocument(a.Text(0)));
+                     }});
+    verbs.push_back({"print tree", "print tree PATH", 1, 1, [](Session& s, const Args& a) {
+                         s.Transcript().Write(s.Host().DescribeTree(a.Text(0)));
+                     }});
+    verbs.push_back({"print bars", "print bars", 0, 0,
+                     [](Session& s, const Args&) { s.Transcript().Write(s.Host().DescribeBars()); }});
+    verbs.push_back({"print status-bar", "print status-bar", 0, 0, [](Session& s, const Args&) {
+                         s.Transcript().Write("status-bar " + Quote(s.Host().StatusBar()));
+                     }});
+    verbs.push_back({"print active", "print active", 0, 0, PrintActive});
+    verbs.push_back({"print file", "print file PATH", 1, 1, PrintFile});
+    verbs.push_back({"print held", "print held", 0, 0, PrintHeld});
+    verbs.push_back({"print settings", "print settings SECTION", 1, 1, PrintSettings});
+    verbs.push_back({"compare", "compare PATH PATH", 2, 2, Compare});
+}
+
+}  // namespace session

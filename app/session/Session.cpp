@@ -1,0 +1,93 @@
+#include "app/session/Session.h"
+
+#include "addin/clsAppCmd.h"
+#include "app/session/Verb.h"
+#include "support/Error.h"
+#include "ui/Form.h"
+
+namespace session {
+
+using ui::headless::HexNumber;
+using ui::headless::ScriptError;
+
+Session::Session(std::ostream& out, const std::filesystem::path& settingsFile)
+    : transcript_(out), platform_(transcript_), observer_(transcript_), settings_(settingsFile) {
+    host_.SetObserver(&observer_);
+    platform_.SetUserInput(this);
+    auto app = host_.Application();
+    platform_.SetHostWindow(app->MainFrameHWND(), app->Caption());
+    addin_ = std::make_unique<addin::clsAppCmd>(addin::Environment{platform_, settings_, host_.FileSystem()});
+}
+
+Session::~Session() {
+    addin_.reset();
+    host_.SetObserver(nullptr);
+}
+
+int Session::Run(LineSource& source) {
+    source_ = &source;
+    int status = 0;
+    try {
+        while (PlayNext("")) {
+        }
+        if (source.StopsOnError()) {
+            // A script that left answers or scheduled actions unused did not do what it says.
+            for (const auto& leftover : platform_.Leftovers()) {
+                ReportScriptError(leftover);
+                status = 1;
+            }
+        }
+    } catch (const ScriptError& e) {
+        ReportScriptError(e);
+        status = 1;
+    }
+    source_ = nullptr;
+    return status;
+}
+
+bool Session::PlayNext(const std::string& waitingFor) {
+    if (!source_) return false;
+    try {
+        auto line = source_->Next(waitingFor);
+        if (!line) return false;
+        Play(*line);
+    } catch (const ScriptError& e) {
+        if (source_->StopsOnError() || source_->Ended()) throw;
+        ReportScriptError(e);
+    }
+    return true;
+}
+
+void Session::Play(const ScriptLine& line, const std::string& note) {
+    try {
+        auto call = FindVerb(line);
+        if (call.verb->echoed) transcript_.Write("> " + line.text + note);
+        Args args(line, call.firstArg, call.verb->usage);
+        try {
+            call.verb->run(*this, args);
+        } catch (const support::Error& e) {
+            transcript_.Write("failed: error " + HexNumber(e.Number()) + ": " +
+                              ui::headless::Escape(e.Description()));
+        } catch (const std::exception& e) {
+            // Not the host's refusal but a fault of the driver or the stand-in: stop here.
+            throw ScriptError(std::string("unexpected failure: ") + e.what());
+        }
+    } catch (ScriptError& e) {
+        e.PlaceAt(line.number);
+        throw;
+    }
+}
+
+ui::Form& Session::LoadedForm(const std::string& name) {
+    if (auto* form = platform_.FindForm(name)) return *form;
+    std::string loaded;
+    for (auto* form : platform_.LoadedForms()) loaded += (loaded.empty() ? "" : ", ") + form->Name();
+    throw ScriptError("no form " + name + " is loaded (loaded: " + (loaded.empty() ? "none" : loaded) + ")");
+}
+
+void Session::ReportScriptError(const ScriptError& error) {
+    errors_.push_back(error.Describe());
+    transcript_.Write("script error: " + error.Describe());
+}
+
+}  // namespace session
