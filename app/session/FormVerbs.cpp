@@ -104,6 +104,9 @@ int Row(const Args& args, std::size_t i, const ui::Control& control) {
 
 void CheckRow(const Args& args, std::size_t i) {
     if (i < args.Count() && !args[i].quoted) {
+        const std::string& text = args.Text(i);
+        if (text.find_first_not_of("-0123456789") != std::string::npos)
+            args.Fail("a row is a number from 0 or a quoted text");
         if (args.Int(i) < 0) args.Fail("rows count from 0");
         ++i;
     }
