@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "host/Application.h"
+#include "host/Component.h"
+#include "host/Document.h"
 #include "host/FileSystem.h"
 
 namespace simhost {

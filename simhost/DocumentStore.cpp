@@ -1,0 +1,307 @@
+#include "simhost/DocumentStore.h"
+
+#include <algorithm>
+
+#include "simhost/SimDocument.h"
+#include "simhost/SimFormat.h"
+#include "simhost/SimState.h"
+#include "simhost/WinPath.h"
+#include "support/Error.h"
+
+using support::Error;
+namespace errors = support::errors;
+
+namespace simhost {
+
+namespace {
+
+const char* UntitledStem(DocKind kind) {
+    switch (kind) {
+        case DocKind::Part:
+            return "Part";
+        case DocKind::Assembly:
+            return "Assembly";
+        case DocKind::Drawing:
+            return "Drawing";
+        case DocKind::Presentation:
+            return "Presentation";
+    }
+    return "Document";
+}
+
+// Every file reference a document holds.
+template <class Data, class F>
+void ForEachRef(Data& data, F f) {
+    for (auto& occ : data.occurrences) f(occ.ref);
+    for (auto& model : data.models) f(model);
+}
+
+}  // namespace
+
+std::string DocumentStore::Key(const std::string& fullFileName) const {
+    winpath::Parsed p = winpath::Parse(fullFileName);
+    return winpath::Lower(winpath::Join(p.drive, p.components));
+}
+
+SimDocumentPtr DocumentStore::Find(const std::string& fullFileName) const {
+    if (fullFileName.empty()) return nullptr;
+    auto it = byName_.find(Key(fullFileName));
+    return it == byName_.end() ? nullptr : it->second->shared_from_this();
+}
+
+void DocumentStore::Register(const SimDocumentPtr& doc) {
+    doc->session.loaded = true;
+    documents_.push_back(doc);
+    if (!doc->FullFileName().empty()) byName_[Key(doc->FullFileName())] = doc.get();
+}
+
+SimDocumentPtr DocumentStore::LoadTree(const std::string& fullFileName, std::vector<SimDocumentPtr>& added,
+                                       std::unordered_set<std::string>& loading) {
+    auto resolved = state_.fileSystem.Drive().Resolve(fullFileName);
+    const std::string& name = resolved.windowsPath;
+    if (!resolved.exists || resolved.isFolder) throw Error(errors::kFileNotFound, "File not found: " + name);
+    if (auto loaded = Find(name)) return loaded;
+    std::string key = Key(name);
+    if (!loading.insert(key).second) throw Error(errors::kFail, name + ": the file references itself");
+
+    DocData data = format::Read(state_.fileSystem.ReadText(name), name);
+    if (winpath::Extension(name) != ExtensionOf(data.kind))
+        throw Error(errors::kFail, name + ": the file holds a " + KindName(data.kind) +
+                                       ", whose name ends in " + ExtensionOf(data.kind));
+    if (data.savedBy > state_.softwareVersion)
+        throw Error(errors::kFail, name + ": saved by release " + std::to_string(data.savedBy) +
+                                       ", newer than this host (" + std::to_string(state_.softwareVersion) +
+                                       ")");
+    ForEachRef(data, [&](FileRef& ref) {
+        bool found = false;
+        try {
+            found = state_.fileSystem.FileExists(ref.file);
+        } catch (const Error&) {  // not a path, or a drive that is not mapped
+        }
+        if (!found)
+            throw Error(errors::kFileNotFound, name + ": cannot find the referenced file " + ref.file);
+        ref.doc = LoadTree(ref.file, added, loading);
+        if (ref.doc->Data().kind == DocKind::Drawing)
+            throw Error(errors::kFail, name + ": references the drawing " + ref.doc->FullFileName());
+        if (data.kind == DocKind::Assembly && ref.doc->Data().kind == DocKind::Presentation)
+            throw Error(errors::kFail,
+                        name + ": an assembly cannot hold the presentation " + ref.doc->FullFileName());
+    });
+    loading.erase(key);
+
+    auto doc = std::make_shared<SimDocument>(state_, name, std::move(data));
+    ForEachRef(doc->Data(), [&](const FileRef& ref) { ++ref.doc->session.referrers; });
+    doc->NameUnnamedOccurrences();
+    Register(doc);
+    added.push_back(doc);
+    return doc;
+}
+
+// All or nothing: a file of the tree that cannot be read leaves nothing of it loaded.
+SimDocumentPtr DocumentStore::Load(const std::string& fullFileName) {
+    std::vector<SimDocumentPtr> added;
+    std::unordered_set<std::string> loading;
+    try {
+        return LoadTree(fullFileName, added, loading);
+    } catch (...) {
+        for (auto& doc : added) {
+            ForEachRef(doc->Data(), [&](const FileRef& ref) { --ref.doc->session.referrers; });
+            doc->session.loaded = false;
+            byName_.erase(Key(doc->FullFileName()));
+        }
+        std::erase_if(documents_, [](const SimDocumentPtr& d) { return !d->session.loaded; });
+        throw;
+    }
+}
+
+SimDocumentPtr DocumentStore::Open(const std::string& fullFileName, bool visible) {
+    if (fullFileName.empty())
+        throw Error(errors::kFileNotFound, "Cannot open a document without a file name");
+    auto doc = Find(fullFileName);
+    if (!doc) doc = Load(fullFileName);
+    doc->session.explicitOpen = true;
+    if (visible) {
+        std::int32_t saved = doc->Data().thumbnail;
+        doc->session.camera =
+            saved && saved != host::kDefaultViewOrientation ? saved : host::kIsoTopRightViewOrientation;
+        Show(*doc);
+    }
+    state_.ReportOpened(doc->FullFileName(), visible);
+    return doc;
+}
+
+SimDocumentPtr DocumentStore::Reference(const std::string& fullFileName) {
+    auto doc = Find(fullFileName);
+    return doc ? doc : Load(fullFileName);
+}
+
+SimDocumentPtr DocumentStore::Add(DocKind kind, const std::string& templateFileName, bool visible) {
+    DocData data = EmptyDocData(kind);
+    std::vector<SimDocumentPtr> added;
+    if (!templateFileName.empty()) {
+        std::string name = state_.fileSystem.Canonical(templateFileName);
+        data = format::Read(state_.fileSystem.ReadText(name), name);
+        if (data.kind != kind)
+            throw Error(errors::kInvalidArg, name + ": a " + std::string(KindName(data.kind)) +
+                                                 " template cannot start a new " + KindName(kind));
+        ForEachRef(data, [&](FileRef& ref) { ref.doc = Reference(ref.file); });
+        ForEachRef(data, [&](FileRef& ref) { ++ref.doc->session.referrers; });
+    }
+    data.savedBy = state_.softwareVersion;
+    data.displayName.clear();
+    auto doc = std::make_shared<SimDocument>(state_, "", std::move(data));
+    doc->NameUnnamedOccurrences();
+    doc->session.untitledName = UntitledStem(kind) + std::to_string(++untitledCount_[static_cast<int>(kind)]);
+    doc->session.explicitOpen = true;
+    doc->session.camera = host::kIsoTopRightViewOrientation;
+    Register(doc);
+    if (visible) Show(*doc);
+    return doc;
+}
+
+void DocumentStore::Show(SimDocument& doc) {
+    std::erase(shown_, &doc);
+    shown_.push_back(&doc);
+    state_.editMode = EditMode::TopLevel;
+    state_.editPath.clear();
+}
+
+SimDocumentPtr DocumentStore::Active() const {
+    return shown_.empty() ? nullptr : shown_.back()->shared_from_this();
+}
+
+void DocumentStore::Close(SimDocument& doc, bool skipSave) {
+    doc.CheckLoaded();
+    if (!skipSave && doc.Dirty()) Save(doc);
+    state_.ReportClosed(doc.FullFileName().empty() ? doc.DisplayName() : doc.FullFileName());
+    doc.session.explicitOpen = false;
+    if (!shown_.empty() && shown_.back() == &doc) {
+        state_.editMode = EditMode::TopLevel;
+        state_.editPath.clear();
+    }
+    std::erase(shown_, &doc);
+    if (doc.session.referrers == 0) Unload(doc);
+}
+
+void DocumentStore::CloseAll() {
+    for (auto& doc : documents_) {
+        if (doc->session.loaded && doc->session.explicitOpen)
+            state_.ReportClosed(doc->FullFileName().empty() ? doc->DisplayName() : doc->FullFileName());
+        doc->session = SimDocument::Session{false, false, 0, 0, doc->session.untitledName};
+    }
+    documents_.clear();
+    byName_.clear();
+    shown_.clear();
+    state_.editMode = EditMode::TopLevel;
+    state_.editPath.clear();
+}
+
+void DocumentStore::Unload(SimDocument& doc) {
+    doc.session.loaded = false;
+    doc.session.explicitOpen = false;
+    needsCompact_ = true;
+    if (!doc.FullFileName().empty()) {
+        auto it = byName_.find(Key(doc.FullFileName()));
+        if (it != byName_.end() && it->second == &doc) byName_.erase(it);
+    }
+    std::erase(shown_, &doc);
+    ForEachRef(doc.Data(), [&](const FileRef& ref) { DropReferrer(ref.doc); });
+}
+
+void DocumentStore::AddReferrer(const SimDocumentPtr& doc) {
+    ++doc->session.referrers;
+}
+
+void DocumentStore::DropReferrer(const SimDocumentPtr& doc) {
+    if (--doc->session.referrers == 0 && !doc->session.explicitOpen && doc->session.loaded) Unload(*doc);
+}
+
+void DocumentStore::DropIfUnused(const SimDocumentPtr& doc) {
+    if (doc->session.referrers == 0 && !doc->session.explicitOpen && doc->session.loaded) Unload(*doc);
+}
+
+SimDocumentPtr DocumentStore::Adopt(const SimDocumentPtr& doc) {
+    if (doc->session.loaded) return doc;
+    if (auto loaded = Find(doc->FullFileName())) return loaded;
+    Register(doc);
+    ForEachRef(doc->Raw(), [&](FileRef& ref) {
+        ref.doc = Adopt(ref.doc);
+        AddReferrer(ref.doc);
+    });
+    return doc;
+}
+
+void DocumentStore::Compact() {
+    if (!needsCompact_) return;
+    std::erase_if(documents_, [](const SimDocumentPtr& d) { return !d->session.loaded; });
+    needsCompact_ = false;
+}
+
+std::int32_t DocumentStore::Count() {
+    Compact();
+    return static_cast<std::int32_t>(documents_.size());
+}
+
+SimDocumentPtr DocumentStore::Item(std::int32_t index) {
+    Compact();
+    if (index < 1 || index > static_cast<std::int32_t>(documents_.size()))
+        throw Error(errors::kInvalidArg, "Documents.Item: no document at " + std::to_string(index));
+    return documents_[index - 1];
+}
+
+void DocumentStore::CheckSavable(const SimDocument& doc) const {
+    if (doc.ReservedForWrite())
+        throw Error(errors::kPermissionDenied,
+                    doc.FullFileName() + " is reserved for write by " + doc.ReservedForWriteName());
+    if (!doc.Data().modifiable)
+        throw Error(errors::kPermissionDenied, doc.FullFileName() + " cannot be modified");
+}
+
+// The file gets the current release as its saver, and the active document's current
+// view as its thumbnail.
+void DocumentStore::WriteFile(SimDocument& doc, const std::string& fullFileName) {
+    DocData out = doc.Data();
+    out.savedBy = state_.softwareVersion;
+    if (Active().get() == &doc) out.thumbnail = doc.session.camera;
+    state_.fileSystem.WriteText(fullFileName, format::Write(out));
+}
+
+// Saves the document and every dirty document it references, the referenced ones first,
+// so that no file on disk points at a copy that is not there yet.
+void DocumentStore::Save(SimDocument& doc) {
+    doc.CheckLoaded();
+    if (doc.FullFileName().empty())
+        throw Error(errors::kFail,
+                    doc.DisplayName() + " has never been saved; it needs a file name (SaveAs)");
+    std::vector<SimDocument*> order;
+    std::unordered_set<SimDocument*> seen;
+    auto visit = [&](auto& self, SimDocument& d) -> void {
+        if (!seen.insert(&d).second) return;
+        ForEachRef(d.Data(), [&](const FileRef& ref) { self(self, *ref.doc); });
+        if (d.Dirty()) order.push_back(&d);
+    };
+    visit(visit, doc);
+    for (SimDocument* d : order) {
+        CheckSavable(*d);
+        WriteFile(*d, d->FullFileName());
+        d->MarkSaved(state_.softwareVersion, Active().get() == d ? d->session.camera : d->Data().thumbnail);
+    }
+}
+
+void DocumentStore::SaveAs(SimDocument& doc, const std::string& fullFileName, bool saveCopyAs) {
+    doc.CheckLoaded();
+    std::string name = state_.fileSystem.Canonical(fullFileName);
+    if (winpath::Extension(name) != ExtensionOf(doc.Data().kind))
+        throw Error(errors::kInvalidArg,
+                    "Cannot save a " + std::string(KindName(doc.Data().kind)) + " as " + name);
+    auto other = Find(name);
+    if (other && other.get() != &doc) throw Error(errors::kFail, name + " is open as another document");
+    WriteFile(doc, name);
+    if (saveCopyAs && other.get() != &doc) return;
+    if (!doc.FullFileName().empty()) byName_.erase(Key(doc.FullFileName()));
+    doc.SetFullFileName(name);
+    byName_[Key(name)] = &doc;
+    doc.MarkSaved(state_.softwareVersion, Active().get() == &doc ? doc.session.camera : doc.Data().thumbnail);
+}
+
+}  // namespace simhost

@@ -1,0 +1,160 @@
+#include "simhost/SimApplication.h"
+
+#include "host/Codes.h"
+#include "simhost/SimCommands.h"
+#include "simhost/SimComponent.h"
+#include "simhost/SimDocument.h"
+#include "simhost/SimServices.h"
+#include "simhost/SimState.h"
+#include "support/Error.h"
+
+using support::Error;
+namespace errors = support::errors;
+
+namespace simhost {
+
+namespace {
+
+// What ActiveEditObject gives while a sketch is being edited.
+class SimSketch : public host::Object {
+public:
+    std::int32_t Type() const override { return host::kPlanarSketchObject; }
+};
+
+DocKind KindOfType(std::int32_t documentType) {
+    switch (documentType) {
+        case host::kPartDocumentObject:
+            return DocKind::Part;
+        case host::kAssemblyDocumentObject:
+            return DocKind::Assembly;
+        case host::kDrawingDocumentObject:
+            return DocKind::Drawing;
+        case host::kPresentationDocumentObject:
+            return DocKind::Presentation;
+    }
+    throw Error(errors::kInvalidArg,
+                "Documents.Add: " + std::to_string(documentType) + " is not a document type");
+}
+
+}  // namespace
+
+// --- documents
+
+std::int32_t SimDocuments::Count() const {
+    return state_.documents.Count();
+}
+
+host::DocumentPtr SimDocuments::Item(std::int32_t index) {
+    return state_.documents.Item(index);
+}
+
+host::DocumentPtr SimDocuments::Open(const std::string& fullFileName, bool openVisible) {
+    return state_.documents.Open(fullFileName, openVisible);
+}
+
+host::DocumentPtr SimDocuments::Add(std::int32_t documentType, const std::string& templateFileName,
+                                    bool createVisible) {
+    return state_.documents.Add(KindOfType(documentType), templateFileName, createVisible);
+}
+
+// --- application
+
+SimApplication::SimApplication(SimState& state)
+    : state_(state),
+      documents_(std::make_shared<SimDocuments>(state)),
+      transactions_(std::make_shared<SimTransactionManager>(state)),
+      fileManager_(std::make_shared<SimFileManager>(state)),
+      fileLocations_(std::make_shared<SimFileLocations>(state)),
+      sketch_(std::make_shared<SimSketch>()) {}
+
+std::shared_ptr<host::Document> SimApplication::ActiveDocument() {
+    return state_.documents.Active();
+}
+
+host::ObjectPtr SimApplication::ActiveEditObject() {
+    auto active = state_.documents.Active();
+    if (!active) return nullptr;
+    switch (state_.editMode) {
+        case EditMode::TopLevel:
+            return active;
+        case EditMode::Sketch:
+            return sketch_;
+        case EditMode::InPlace:
+            return FindOccurrence(state_.editPath)->Definition();
+    }
+    return active;
+}
+
+std::shared_ptr<host::View> SimApplication::ActiveView() {
+    auto active = state_.documents.Active();
+    return active ? std::make_shared<SimView>(active) : nullptr;
+}
+
+std::shared_ptr<host::CommandManager> SimApplication::CommandManager() {
+    return state_.commands;
+}
+
+std::shared_ptr<host::UserInterfaceManager> SimApplication::UserInterfaceManager() {
+    return state_.commands;
+}
+
+std::string SimApplication::StatusBarText() const {
+    return state_.statusBar;
+}
+
+void SimApplication::SetStatusBarText(const std::string& text) {
+    state_.statusBar = text;
+    if (state_.observer) state_.observer->StatusBarText(text);
+}
+
+bool SimApplication::SilentOperation() const {
+    return state_.silent;
+}
+
+void SimApplication::SetSilentOperation(bool silent) {
+    state_.silent = silent;
+}
+
+std::int32_t SimApplication::SoftwareVersionMajor() const {
+    return state_.softwareVersion;
+}
+
+std::shared_ptr<SimOccurrence> SimApplication::FindOccurrence(const std::string& path) {
+    auto top = state_.documents.Active();
+    if (!top) throw Error(errors::kFail, "No occurrence \"" + path + "\": no document is active");
+    if (top->Data().kind != DocKind::Assembly)
+        throw Error(errors::kFail,
+                    "No occurrence \"" + path + "\": " + top->DisplayName() + " is not an assembly");
+    std::vector<std::int64_t> uids;
+    SimDocument* doc = top.get();
+    std::size_t start = 0;
+    while (start <= path.size()) {
+        std::size_t end = path.find('/', start);
+        if (end == std::string::npos) end = path.size();
+        std::string name = path.substr(start, end - start);
+        const OccurrenceData* occ = doc->FindOccurrenceByName(name);
+        if (!occ)
+            throw Error(errors::kFail, "No occurrence \"" + path + "\": " + doc->DisplayName() +
+                                           " holds no \"" + name + "\"");
+        uids.push_back(occ->uid);
+        doc = occ->ref.doc.get();
+        start = end + 1;
+    }
+    return top->OccurrenceHandle(uids);
+}
+
+// --- site
+
+std::shared_ptr<host::Application> SimSite::Application() {
+    return state_.application;
+}
+
+std::shared_ptr<host::ButtonDefinition> SimSite::CreateButtonDefinition(
+    const std::string& internalName, std::int32_t classification, const std::string& displayName,
+    const std::string& description, const std::string& tooltip, bool withIcon) {
+    if (withIcon && state_.refuseIcons)
+        throw Error(errors::kUnexpected, "The host refused the icon of \"" + internalName + "\"");
+    return std::make_shared<SimButtonDefinition>(internalName, displayName, withIcon);
+}
+
+}  // namespace simhost

@@ -1,0 +1,354 @@
+#include "simhost/SimDocument.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+#include "simhost/HostNames.h"
+#include "simhost/SimComponent.h"
+#include "simhost/SimProperties.h"
+#include "simhost/SimState.h"
+#include "simhost/SimStyles.h"
+#include "simhost/SimUnitsOfMeasure.h"
+#include "simhost/WinPath.h"
+#include "support/Error.h"
+
+using support::Error;
+namespace errors = support::errors;
+
+namespace simhost {
+
+SimDocument::SimDocument(SimState& state, std::string fullFileName, DocData data)
+    : state_(state), fullFileName_(std::move(fullFileName)), data_(std::move(data)) {}
+
+DocData& SimDocument::Edit() {
+    CheckLoaded();
+    state_.transactions.Record(*this);
+    dirty_ = true;
+    return data_;
+}
+
+void SimDocument::Restore(DocData data, bool dirty) {
+    std::vector<SimDocumentPtr> before;
+    for (const auto& occ : data_.occurrences) before.push_back(occ.ref.doc);
+    for (const auto& model : data_.models) before.push_back(model.doc);
+    data_ = std::move(data);
+    dirty_ = dirty;
+    indexStale_ = true;
+    if (!session.loaded) return;
+    auto adopt = [&](FileRef& ref) {
+        ref.doc = state_.documents.Adopt(ref.doc);
+        state_.documents.AddReferrer(ref.doc);
+    };
+    for (auto& occ : data_.occurrences) adopt(occ.ref);
+    for (auto& model : data_.models) adopt(model);
+    for (const auto& doc : before) state_.documents.DropReferrer(doc);
+}
+
+void SimDocument::MarkSaved(std::int32_t savedBy, std::int32_t thumbnail) {
+    data_.savedBy = savedBy;
+    data_.thumbnail = thumbnail;
+    dirty_ = false;
+}
+
+std::string SimDocument::BaseNameForOccurrences() const {
+    return fullFileName_.empty() ? session.untitledName : winpath::BaseName(fullFileName_);
+}
+
+void SimDocument::CheckLoaded() const {
+    if (!session.loaded) throw Error(errors::kFail, DisplayName() + " is closed");
+}
+
+void SimDocument::RequirePart(const char* member) const {
+    if (data_.kind != DocKind::Part)
+        throw Error(errors::kFail, std::string(member) + " is only available on a part; " + DisplayName() +
+                                       " is a " + KindName(data_.kind));
+}
+
+void SimDocument::RequireAssembly(const char* member) const {
+    if (data_.kind != DocKind::Assembly)
+        throw Error(errors::kFail, std::string(member) + " is only available on an assembly; " +
+                                       DisplayName() + " is a " + KindName(data_.kind));
+}
+
+// --- occurrences
+
+void SimDocument::Reindex() const {
+    byUid_.clear();
+    byName_.clear();
+    for (std::size_t i = 0; i < data_.occurrences.size(); ++i) {
+        byUid_[data_.occurrences[i].uid] = i;
+        byName_[data_.occurrences[i].name] = data_.occurrences[i].uid;
+    }
+    indexStale_ = false;
+}
+
+const OccurrenceData* SimDocument::FindOccurrence(std::int64_t uid) const {
+    if (indexStale_) Reindex();
+    auto it = byUid_.find(uid);
+    return it == byUid_.end() ? nullptr : &data_.occurrences[it->second];
+}
+
+const OccurrenceData* SimDocument::FindOccurrenceByName(const std::string& name) const {
+    if (indexStale_) Reindex();
+    auto it = byName_.find(name);
+    return it == byName_.end() ? nullptr : FindOccurrence(it->second);
+}
+
+const OccurrenceData& SimDocument::Occurrence(std::int64_t uid) const {
+    const OccurrenceData* occ = FindOccurrence(uid);
+    if (!occ) throw Error(errors::kFail, "The occurrence no longer exists in " + DisplayName());
+    return *occ;
+}
+
+OccurrenceData& SimDocument::MutableOccurrence(std::int64_t uid) {
+    Occurrence(uid);
+    Edit();
+    return data_.occurrences[byUid_.at(uid)];
+}
+
+std::string SimDocument::FreeDefaultName(const std::string& base, std::int64_t exceptUid) const {
+    for (long n = 1;; ++n) {
+        std::string candidate = base + ":" + std::to_string(n);
+        const OccurrenceData* holder = FindOccurrenceByName(candidate);
+        if (!holder || holder->uid == exceptUid) return candidate;
+    }
+}
+
+bool SimDocument::IsDefaultName(const OccurrenceData& occ) const {
+    std::string base = occ.ref.doc->BaseNameForOccurrences() + ":";
+    if (occ.name.size() <= base.size() || occ.name.compare(0, base.size(), base) != 0) return false;
+    return std::all_of(occ.name.begin() + static_cast<long>(base.size()), occ.name.end(),
+                       [](char c) { return c >= '0' && c <= '9'; });
+}
+
+void SimDocument::NameUnnamedOccurrences() {
+    Reindex();
+    for (auto& occ : data_.occurrences) {
+        if (!occ.name.empty()) continue;
+        occ.name = FreeDefaultName(occ.ref.doc->BaseNameForOccurrences(), occ.uid);
+        byName_[occ.name] = occ.uid;
+    }
+}
+
+bool SimDocument::IsReferencedBy(const SimDocument& target) const {
+    std::unordered_set<const SimDocument*> seen;
+    std::vector<const SimDocument*> todo{&target};
+    while (!todo.empty()) {
+        const SimDocument* d = todo.back();
+        todo.pop_back();
+        if (d == this) return true;
+        if (!seen.insert(d).second) continue;
+        for (const auto& occ : d->data_.occurrences) todo.push_back(occ.ref.doc.get());
+    }
+    return false;
+}
+
+std::int64_t SimDocument::AddOccurrence(const SimDocumentPtr& target, const host::Matrix& position) {
+    RequireAssembly("Occurrences.Add");
+    if (target->data_.kind != DocKind::Part && target->data_.kind != DocKind::Assembly)
+        throw Error(errors::kInvalidArg,
+                    "Only parts and assemblies can be placed: " + target->FullFileName());
+    if (IsReferencedBy(*target))
+        throw Error(errors::kInvalidArg, target->FullFileName() + " cannot be placed in itself");
+    OccurrenceData occ;
+    occ.name = FreeDefaultName(target->BaseNameForOccurrences(), 0);
+    occ.ref = FileRef{target->FullFileName(), target};
+    occ.transform = position;
+    DocData& data = Edit();
+    occ.uid = data.nextUid++;
+    data.occurrences.push_back(occ);
+    if (!indexStale_) {
+        byUid_[occ.uid] = data.occurrences.size() - 1;
+        byName_[occ.name] = occ.uid;
+    }
+    state_.documents.AddReferrer(target);
+    return occ.uid;
+}
+
+void SimDocument::RemoveOccurrence(std::int64_t uid) {
+    Occurrence(uid);
+    std::size_t index = byUid_.at(uid);
+    DocData& data = Edit();
+    SimDocumentPtr target = data.occurrences[index].ref.doc;
+    data.occurrences.erase(data.occurrences.begin() + static_cast<long>(index));
+    indexStale_ = true;
+    state_.documents.DropReferrer(target);
+}
+
+void SimDocument::RenameOccurrence(std::int64_t uid, const std::string& name) {
+    const OccurrenceData& occ = Occurrence(uid);
+    std::string wanted = name.empty() ? FreeDefaultName(occ.ref.doc->BaseNameForOccurrences(), uid) : name;
+    if (wanted == occ.name) return;
+    if (FindOccurrenceByName(wanted))
+        throw Error(errors::kInvalidArg, "The name \"" + wanted + "\" is already used in " + DisplayName());
+    OccurrenceData& target = MutableOccurrence(uid);
+    byName_.erase(target.name);
+    byName_[wanted] = uid;
+    target.name = wanted;
+}
+
+// Occurrences that carried their file's default name take the new file's default name;
+// names someone gave keep.
+void SimDocument::ReplaceOccurrence(std::int64_t uid, const SimDocumentPtr& target, bool replaceAll) {
+    RequireAssembly("Replace");
+    SimDocumentPtr old = Occurrence(uid).ref.doc;
+    if (target == old) return;
+    if (target->data_.kind != DocKind::Part && target->data_.kind != DocKind::Assembly)
+        throw Error(errors::kInvalidArg,
+                    "Only parts and assemblies can be placed: " + target->FullFileName());
+    if (IsReferencedBy(*target))
+        throw Error(errors::kInvalidArg, target->FullFileName() + " cannot be placed in itself");
+    std::vector<std::int64_t> uids;
+    if (replaceAll) {
+        for (const auto& occ : data_.occurrences)
+            if (occ.ref.doc == old) uids.push_back(occ.uid);
+    } else {
+        uids.push_back(uid);
+    }
+    Edit();
+    for (std::int64_t u : uids) {
+        OccurrenceData& occ = data_.occurrences[byUid_.at(u)];
+        bool defaultNamed = IsDefaultName(occ);
+        occ.ref = FileRef{target->FullFileName(), target};
+        state_.documents.AddReferrer(target);
+        if (defaultNamed) {
+            std::string name = FreeDefaultName(target->BaseNameForOccurrences(), u);
+            byName_.erase(occ.name);
+            byName_[name] = u;
+            occ.name = name;
+        }
+    }
+    for (std::size_t i = 0; i < uids.size(); ++i) state_.documents.DropReferrer(old);
+}
+
+void SimDocument::SetOccurrenceVisible(std::int64_t uid, bool visible) {
+    if (Occurrence(uid).visible != visible) MutableOccurrence(uid).visible = visible;
+}
+
+void SimDocument::SetOccurrenceGrounded(std::int64_t uid, bool grounded) {
+    if (Occurrence(uid).grounded != grounded) MutableOccurrence(uid).grounded = grounded;
+}
+
+std::shared_ptr<SimOccurrence> SimDocument::OccurrenceHandle(const std::vector<std::int64_t>& path) {
+    std::string key(reinterpret_cast<const char*>(path.data()), path.size() * sizeof(std::int64_t));
+    if (auto alive = handles_[key].lock()) return alive;
+    auto handle = std::make_shared<SimOccurrence>(shared_from_this(), path);
+    handles_[key] = handle;
+    if (handles_.size() > handlesPruneAt_) {
+        std::erase_if(handles_, [](const auto& entry) { return entry.second.expired(); });
+        handlesPruneAt_ = std::max<std::size_t>(256, handles_.size() * 2);
+    }
+    return handle;
+}
+
+std::shared_ptr<SimComponentDefinition> SimDocument::Definition() {
+    if (auto alive = definition_.lock()) return alive;
+    auto def = std::make_shared<SimComponentDefinition>(shared_from_this());
+    definition_ = def;
+    return def;
+}
+
+// --- host::Document
+
+std::int32_t SimDocument::Type() const {
+    return host::kDocumentObject;
+}
+
+std::string SimDocument::DisplayName() const {
+    if (!data_.displayName.empty()) return data_.displayName;
+    return fullFileName_.empty() ? session.untitledName : winpath::FileNamePart(fullFileName_);
+}
+
+void SimDocument::SetDisplayName(const std::string& name) {
+    if (name != data_.displayName) Edit().displayName = name;
+}
+
+void SimDocument::SaveAs(const std::string& fullFileName, bool saveCopyAs) {
+    state_.documents.SaveAs(*this, fullFileName, saveCopyAs);
+}
+
+void SimDocument::Save() {
+    state_.documents.Save(*this);
+}
+
+void SimDocument::Close(bool skipSave) {
+    state_.documents.Close(*this, skipSave);
+}
+
+bool SimDocument::IsModifiable() const {
+    return data_.modifiable && data_.savedBy >= state_.softwareVersion;
+}
+
+bool SimDocument::ReservedForWrite() const {
+    return !data_.reservedBy.empty() && data_.reservedBy != state_.userName;
+}
+
+std::string SimDocument::ReservedForWriteName() const {
+    return ReservedForWrite() ? data_.reservedBy : "";
+}
+
+void SimDocument::SetDisabledCommandTypes(std::int32_t types) {
+    if (types != data_.disabledCommandTypes) Edit().disabledCommandTypes = types;
+}
+
+std::shared_ptr<host::PropertySets> SimDocument::PropertySets() {
+    return std::make_shared<SimPropertySets>(shared_from_this());
+}
+
+std::shared_ptr<host::UnitsOfMeasure> SimDocument::UnitsOfMeasure() {
+    return std::make_shared<SimUnitsOfMeasure>(shared_from_this());
+}
+
+std::shared_ptr<host::ComponentDefinition> SimDocument::ComponentDefinition() {
+    if (data_.kind != DocKind::Part && data_.kind != DocKind::Assembly)
+        throw Error(errors::kFail, "A " + std::string(KindName(data_.kind)) +
+                                       " has no component definition: " + DisplayName());
+    return Definition();
+}
+
+std::vector<host::DocumentPtr> SimDocument::ReferencedDocuments() {
+    std::vector<host::DocumentPtr> out;
+    std::unordered_set<const SimDocument*> seen;
+    auto add = [&](const FileRef& ref) {
+        if (seen.insert(ref.doc.get()).second) out.push_back(ref.doc);
+    };
+    for (const auto& occ : data_.occurrences) add(occ.ref);
+    for (const auto& model : data_.models) add(model);
+    return out;
+}
+
+std::string SimDocument::Thumbnail() const {
+    const char* name = data_.thumbnail ? names::Orientation(data_.thumbnail) : nullptr;
+    return name ? name : "";
+}
+
+std::shared_ptr<host::Materials> SimDocument::Materials() {
+    RequirePart("Materials");
+    return std::make_shared<SimMaterials>(shared_from_this());
+}
+
+std::shared_ptr<host::RenderStyles> SimDocument::RenderStyles() {
+    RequirePart("RenderStyles");
+    return std::make_shared<SimRenderStyles>(shared_from_this());
+}
+
+std::shared_ptr<host::Material> SimDocument::ActiveMaterial() {
+    RequirePart("ActiveMaterial");
+    if (data_.material.empty()) throw Error(errors::kFail, DisplayName() + " has no material");
+    if (!styles::FindMaterial(data_, data_.material))
+        throw Error(errors::kFail,
+                    DisplayName() + ": the material \"" + data_.material + "\" is not defined in it");
+    return std::make_shared<SimMaterial>(shared_from_this(), data_.material);
+}
+
+std::shared_ptr<host::RenderStyle> SimDocument::ActiveRenderStyle() {
+    RequirePart("ActiveRenderStyle");
+    std::string name = styles::ActiveRenderStyleName(data_);
+    if (name.empty()) throw Error(errors::kFail, DisplayName() + " has no render style");
+    if (!styles::FindRenderStyle(data_, name))
+        throw Error(errors::kFail,
+                    DisplayName() + ": the render style \"" + name + "\" is not defined in it");
+    return std::make_shared<SimRenderStyle>(shared_from_this(), name);
+}
+
+}  // namespace simhost

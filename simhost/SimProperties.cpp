@@ -1,0 +1,295 @@
+#include "simhost/SimProperties.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <optional>
+
+#include "simhost/PropertyCatalog.h"
+#include "simhost/SimDocument.h"
+#include "simhost/SimStyles.h"
+#include "simhost/WinPath.h"
+#include "support/Error.h"
+
+using support::Error;
+using support::Variant;
+using support::VariantType;
+namespace errors = support::errors;
+
+namespace simhost {
+
+namespace {
+
+// Position of a set in the document's list by format identifier, or -1.
+int SetIndex(const DocData& data, std::string_view formatId) {
+    for (std::size_t i = 0; i < data.propertySets.size(); ++i)
+        if (winpath::EqualNoCase(data.propertySets[i].formatId, formatId)) return static_cast<int>(i);
+    return -1;
+}
+
+// Position of a set by name, display name or format identifier, or -1.
+int FindSet(const DocData& data, const std::string& nameOrId) {
+    if (int standard = catalog::FindStandardSet(nameOrId); standard >= 0) return standard;
+    for (std::size_t i = catalog::kStandardSetCount; i < data.propertySets.size(); ++i)
+        if (data.propertySets[i].name == nameOrId ||
+            winpath::EqualNoCase(data.propertySets[i].formatId, nameOrId))
+            return static_cast<int>(i);
+    return -1;
+}
+
+int ExistingSet(const SimDocument& doc, const std::string& formatId) {
+    int index = SetIndex(doc.Data(), formatId);
+    if (index < 0)
+        throw Error(errors::kFail,
+                    "The property set " + formatId + " no longer exists in " + doc.DisplayName());
+    return index;
+}
+
+bool HasDefinitions(int setIndex) {
+    return setIndex < catalog::kUserDefinedSet;
+}
+
+StoredProperty* FindStored(std::vector<StoredProperty>& list, std::int32_t id) {
+    for (auto& p : list)
+        if (p.id == id) return &p;
+    return nullptr;
+}
+
+bool PlainValue(const Variant& v) {
+    return v.Type() != VariantType::Empty && v.Type() != VariantType::Object;
+}
+
+// The value as the property's kind stores it, or nothing when it is of another kind.
+std::optional<Variant> AsKind(const Variant& v, catalog::ValueKind kind) {
+    using T = VariantType;
+    T t = v.Type();
+    bool number = t == T::Integer || t == T::Long || t == T::Double;
+    switch (kind) {
+        case catalog::ValueKind::Text:
+            if (t == T::String) return v;
+            break;
+        case catalog::ValueKind::Number:
+            if (number) return v;
+            break;
+        case catalog::ValueKind::Currency:
+            if (t == T::Currency) return v;
+            if (number) return Variant(support::Currency::FromDouble(v.ToDouble()));
+            break;
+        case catalog::ValueKind::Date:
+            if (t == T::Date) return v;
+            break;
+        case catalog::ValueKind::Boolean:
+            if (t == T::Boolean) return v;
+            break;
+    }
+    return std::nullopt;
+}
+
+std::string GeneratedFormatId(const std::string& name, std::size_t salt) {
+    std::uint64_t h = 1469598103934665603ull ^ salt;
+    for (char c : name) h = (h ^ static_cast<unsigned char>(c)) * 1099511628211ull;
+    std::uint64_t g = h * 6364136223846793005ull + 1442695040888963407ull;
+    char buf[40];
+    std::snprintf(buf, sizeof buf, "{%08X-%04X-%04X-%04X-%012llX}", static_cast<unsigned>(h >> 32),
+                  static_cast<unsigned>(h >> 16 & 0xFFFF), static_cast<unsigned>(h & 0xFFFF),
+                  static_cast<unsigned>(g >> 48), static_cast<unsigned long long>(g & 0xFFFFFFFFFFFFull));
+    return buf;
+}
+
+}  // namespace
+
+// --- property
+
+std::string SimProperty::Name() const {
+    int set = ExistingSet(*doc_, formatId_);
+    if (HasDefinitions(set)) return catalog::FindById(catalog::StandardSets()[set], propId_)->name;
+    for (const auto& p : doc_->Data().propertySets[set].properties)
+        if (p.id == propId_) return p.name;
+    throw Error(errors::kFail, "The property no longer exists in " + doc_->DisplayName());
+}
+
+Variant SimProperty::Value() const {
+    int set = ExistingSet(*doc_, formatId_);
+    const DocData& data = doc_->Data();
+    if (set == catalog::kDesignTrackingSet && propId_ == catalog::kMaterialId && data.kind == DocKind::Part)
+        return data.material;
+    for (const auto& p : data.propertySets[set].properties)
+        if (p.id == propId_) return p.value;
+    if (!HasDefinitions(set))
+        throw Error(errors::kFail, "The property no longer exists in " + doc_->DisplayName());
+    if (catalog::FindById(catalog::StandardSets()[set], propId_)->kind == catalog::ValueKind::Currency)
+        return support::Currency{};
+    return std::string();
+}
+
+void SimProperty::SetValue(const Variant& value) {
+    int set = ExistingSet(*doc_, formatId_);
+    std::string name = Name();
+    if (!PlainValue(value))
+        throw Error(errors::kTypeMismatch, "Type mismatch: \"" + name + "\" takes no value of this kind");
+    if (!HasDefinitions(set)) {
+        auto& list = doc_->Data().propertySets[set].properties;
+        auto it =
+            std::find_if(list.begin(), list.end(), [&](const StoredProperty& p) { return p.id == propId_; });
+        if (it->value == value) return;
+        FindStored(doc_->Edit().propertySets[set].properties, propId_)->value = value;
+        return;
+    }
+    const catalog::PropertyDef& def = *catalog::FindById(catalog::StandardSets()[set], propId_);
+    std::optional<Variant> stored = AsKind(value, def.kind);
+    if (!stored)
+        throw Error(errors::kTypeMismatch,
+                    "Type mismatch: \"" + name + "\" takes a " + catalog::KindName(def.kind) + " value");
+    if (stored == Value()) return;
+    if (set == catalog::kDesignTrackingSet && propId_ == catalog::kMaterialId &&
+        doc_->Data().kind == DocKind::Part) {
+        const std::string& material = *stored->As<std::string>();
+        if (!styles::FindMaterial(doc_->Data(), material))
+            throw Error(errors::kInvalidArg,
+                        doc_->DisplayName() + " has no material named \"" + material + "\"");
+        doc_->Edit().material = material;
+        return;
+    }
+    auto& list = doc_->Edit().propertySets[set].properties;
+    bool empty = stored->Type() == VariantType::String && stored->As<std::string>()->empty();
+    if (StoredProperty* p = FindStored(list, propId_)) {
+        if (empty)
+            std::erase_if(list, [&](const StoredProperty& q) { return q.id == propId_; });
+        else
+            p->value = *stored;
+    } else if (!empty) {
+        list.push_back({def.name, def.id, *stored});
+    }
+}
+
+void SimProperty::Delete() {
+    int set = ExistingSet(*doc_, formatId_);
+    if (HasDefinitions(set))
+        throw Error(errors::kFail, "The standard property \"" + Name() + "\" cannot be deleted");
+    Name();
+    std::erase_if(doc_->Edit().propertySets[set].properties,
+                  [&](const StoredProperty& p) { return p.id == propId_; });
+}
+
+// --- property set
+
+std::string SimPropertySet::Name() const {
+    int set = ExistingSet(*doc_, formatId_);
+    return set < catalog::kStandardSetCount ? catalog::StandardSets()[set].name
+                                            : doc_->Data().propertySets[set].name;
+}
+
+std::string SimPropertySet::DisplayName() const {
+    int set = ExistingSet(*doc_, formatId_);
+    return set < catalog::kStandardSetCount ? catalog::StandardSets()[set].displayName
+                                            : doc_->Data().propertySets[set].name;
+}
+
+std::int32_t SimPropertySet::Count() const {
+    int set = ExistingSet(*doc_, formatId_);
+    if (HasDefinitions(set)) return static_cast<std::int32_t>(catalog::StandardSets()[set].properties.size());
+    return static_cast<std::int32_t>(doc_->Data().propertySets[set].properties.size());
+}
+
+std::shared_ptr<host::Property> SimPropertySet::Handle(std::int32_t propId) {
+    return std::make_shared<SimProperty>(doc_, formatId_, propId);
+}
+
+std::shared_ptr<host::Property> SimPropertySet::Item(std::int32_t position) {
+    int set = ExistingSet(*doc_, formatId_);
+    if (position < 1 || position > Count())
+        throw Error(errors::kInvalidArg,
+                    "PropertySet.Item: no property at " + std::to_string(position) + " in " + DisplayName());
+    if (HasDefinitions(set)) return Handle(catalog::StandardSets()[set].properties[position - 1].id);
+    return Handle(doc_->Data().propertySets[set].properties[position - 1].id);
+}
+
+std::shared_ptr<host::Property> SimPropertySet::Item(const std::string& name) {
+    int set = ExistingSet(*doc_, formatId_);
+    if (HasDefinitions(set)) {
+        if (const auto* def = catalog::FindByName(catalog::StandardSets()[set], name)) return Handle(def->id);
+    } else {
+        for (const auto& p : doc_->Data().propertySets[set].properties)
+            if (p.name == name) return Handle(p.id);
+    }
+    throw Error(errors::kInvalidArg,
+                "PropertySet.Item: no property named \"" + name + "\" in " + DisplayName());
+}
+
+std::shared_ptr<host::Property> SimPropertySet::ItemByPropId(std::int32_t propId) {
+    int set = ExistingSet(*doc_, formatId_);
+    if (HasDefinitions(set)) {
+        if (catalog::FindById(catalog::StandardSets()[set], propId)) return Handle(propId);
+    } else {
+        for (const auto& p : doc_->Data().propertySets[set].properties)
+            if (p.id == propId) return Handle(p.id);
+    }
+    throw Error(errors::kInvalidArg,
+                "PropertySet.ItemByPropId: no property " + std::to_string(propId) + " in " + DisplayName());
+}
+
+std::shared_ptr<host::Property> SimPropertySet::Add(const Variant& value, const std::string& name,
+                                                    std::int32_t propId) {
+    int set = ExistingSet(*doc_, formatId_);
+    if (HasDefinitions(set)) throw Error(errors::kFail, "Properties cannot be added to " + DisplayName());
+    if (!PlainValue(value))
+        throw Error(errors::kTypeMismatch, "Type mismatch: a property takes a plain value");
+    if (name.empty()) throw Error(errors::kInvalidArg, "A property needs a name");
+    const auto& list = doc_->Data().propertySets[set].properties;
+    std::int32_t maxId = catalog::kFirstCustomId - 1;
+    for (const auto& p : list) {
+        if (p.name == name)
+            throw Error(errors::kInvalidArg,
+                        "The property \"" + name + "\" already exists in " + DisplayName());
+        if (p.id == propId)
+            throw Error(errors::kInvalidArg,
+                        "The property identifier " + std::to_string(propId) + " is taken");
+        maxId = std::max(maxId, p.id);
+    }
+    std::int32_t id = propId ? propId : maxId + 1;
+    doc_->Edit().propertySets[set].properties.push_back({name, id, value});
+    return Handle(id);
+}
+
+void SimPropertySet::Delete() {
+    int set = ExistingSet(*doc_, formatId_);
+    if (set < catalog::kStandardSetCount)
+        throw Error(errors::kFail, "The standard set " + DisplayName() + " cannot be deleted");
+    auto& sets = doc_->Edit().propertySets;
+    sets.erase(sets.begin() + set);
+}
+
+// --- property sets
+
+std::int32_t SimPropertySets::Count() const {
+    return static_cast<std::int32_t>(doc_->Data().propertySets.size());
+}
+
+std::shared_ptr<host::PropertySet> SimPropertySets::Item(std::int32_t position) {
+    if (position < 1 || position > Count())
+        throw Error(errors::kInvalidArg, "PropertySets.Item: no property set at " + std::to_string(position));
+    return std::make_shared<SimPropertySet>(doc_, doc_->Data().propertySets[position - 1].formatId);
+}
+
+std::shared_ptr<host::PropertySet> SimPropertySets::Item(const std::string& nameOrId) {
+    int set = FindSet(doc_->Data(), nameOrId);
+    if (set < 0) throw Error(errors::kInvalidArg, "PropertySets.Item: no property set \"" + nameOrId + "\"");
+    return std::make_shared<SimPropertySet>(doc_, doc_->Data().propertySets[set].formatId);
+}
+
+std::shared_ptr<host::PropertySet> SimPropertySets::Add(const std::string& name,
+                                                        const std::string& formatId) {
+    if (name.empty()) throw Error(errors::kInvalidArg, "A property set needs a name");
+    if (FindSet(doc_->Data(), name) >= 0 || (!formatId.empty() && FindSet(doc_->Data(), formatId) >= 0))
+        throw Error(errors::kInvalidArg, "The property set \"" + name + "\" already exists");
+    std::string id = formatId;
+    for (std::size_t salt = 0; id.empty() || FindSet(doc_->Data(), id) >= 0; ++salt)
+        id = GeneratedFormatId(name, salt);
+    doc_->Edit().propertySets.push_back({name, id, {}});
+    return std::make_shared<SimPropertySet>(doc_, id);
+}
+
+bool SimPropertySets::PropertySetExists(const std::string& nameOrId) const {
+    return FindSet(doc_->Data(), nameOrId) >= 0;
+}
+
+}  // namespace simhost

@@ -1,0 +1,132 @@
+#include "simhost/SimStyles.h"
+
+#include <algorithm>
+
+#include "simhost/SimDocument.h"
+#include "support/Error.h"
+
+using support::Error;
+namespace errors = support::errors;
+
+namespace simhost {
+
+namespace styles {
+
+const MaterialData* FindMaterial(const DocData& data, const std::string& name) {
+    for (const auto& m : data.materials)
+        if (m.name == name) return &m;
+    return nullptr;
+}
+
+const RenderStyleData* FindRenderStyle(const DocData& data, const std::string& name) {
+    for (const auto& r : data.renderStyles)
+        if (r.name == name) return &r;
+    return nullptr;
+}
+
+std::string ActiveRenderStyleName(const DocData& data) {
+    if (!data.renderStyle.empty()) return data.renderStyle;
+    const MaterialData* m = FindMaterial(data, data.material);
+    return m ? m->renderStyle : std::string();
+}
+
+}  // namespace styles
+
+namespace {
+[[noreturn]] void Gone(const SimDocument& doc, const char* what, const std::string& name) {
+    throw Error(errors::kFail,
+                std::string("The ") + what + " \"" + name + "\" no longer exists in " + doc.DisplayName());
+}
+}  // namespace
+
+// --- render styles
+
+const RenderStyleData& SimRenderStyle::Style() const {
+    const RenderStyleData* r = styles::FindRenderStyle(doc_->Data(), name_);
+    if (!r) Gone(*doc_, "render style", name_);
+    return *r;
+}
+
+bool SimRenderStyle::InUse() const {
+    Style();
+    const DocData& data = doc_->Data();
+    const MaterialData* active = styles::FindMaterial(data, data.material);
+    return data.renderStyle == name_ || (active && active->renderStyle == name_);
+}
+
+std::int32_t SimRenderStyle::StyleLocation() const {
+    return Style().location;
+}
+
+void SimRenderStyle::Delete() {
+    if (InUse())
+        throw Error(errors::kFail, "The render style \"" + name_ + "\" is in use and cannot be deleted");
+    auto& list = doc_->Edit().renderStyles;
+    std::erase_if(list, [&](const RenderStyleData& r) { return r.name == name_; });
+}
+
+// --- materials
+
+const MaterialData& SimMaterial::Data() const {
+    const MaterialData* m = styles::FindMaterial(doc_->Data(), name_);
+    if (!m) Gone(*doc_, "material", name_);
+    return *m;
+}
+
+double SimMaterial::Density() const {
+    return Data().density;
+}
+
+std::shared_ptr<host::RenderStyle> SimMaterial::RenderStyle() {
+    const std::string& style = Data().renderStyle;
+    return style.empty() ? nullptr : std::make_shared<SimRenderStyle>(doc_, style);
+}
+
+bool SimMaterial::InUse() const {
+    Data();
+    return doc_->Data().material == name_;
+}
+
+std::int32_t SimMaterial::StyleLocation() const {
+    return Data().location;
+}
+
+void SimMaterial::Delete() {
+    if (InUse()) throw Error(errors::kFail, "The material \"" + name_ + "\" is in use and cannot be deleted");
+    auto& list = doc_->Edit().materials;
+    std::erase_if(list, [&](const MaterialData& m) { return m.name == name_; });
+}
+
+std::int32_t SimMaterials::Count() const {
+    return static_cast<std::int32_t>(doc_->Data().materials.size());
+}
+
+std::shared_ptr<host::Material> SimMaterials::Item(std::int32_t index) {
+    if (index < 1 || index > Count())
+        throw Error(errors::kInvalidArg, "Materials.Item: no material at " + std::to_string(index));
+    return std::make_shared<SimMaterial>(doc_, doc_->Data().materials[index - 1].name);
+}
+
+std::shared_ptr<host::Material> SimMaterials::Item(const std::string& name) {
+    if (!styles::FindMaterial(doc_->Data(), name))
+        throw Error(errors::kInvalidArg, "Materials.Item: no material named \"" + name + "\"");
+    return std::make_shared<SimMaterial>(doc_, name);
+}
+
+std::int32_t SimRenderStyles::Count() const {
+    return static_cast<std::int32_t>(doc_->Data().renderStyles.size());
+}
+
+std::shared_ptr<host::RenderStyle> SimRenderStyles::Item(std::int32_t index) {
+    if (index < 1 || index > Count())
+        throw Error(errors::kInvalidArg, "RenderStyles.Item: no render style at " + std::to_string(index));
+    return std::make_shared<SimRenderStyle>(doc_, doc_->Data().renderStyles[index - 1].name);
+}
+
+std::shared_ptr<host::RenderStyle> SimRenderStyles::Item(const std::string& name) {
+    if (!styles::FindRenderStyle(doc_->Data(), name))
+        throw Error(errors::kInvalidArg, "RenderStyles.Item: no render style named \"" + name + "\"");
+    return std::make_shared<SimRenderStyle>(doc_, name);
+}
+
+}  // namespace simhost
