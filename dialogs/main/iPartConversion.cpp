@@ -56,8 +56,8 @@ void iPartConversion::Run() {
         return;
     }
     std::string folder = copy::SplitPath(assembly->FullFileName()).directory + kFolderName + "\\";
-    std::string question = "Convert the " + std::to_string(members.size()) +
-                           " iPart occurrences of this assembly to normal parts saved in\r" + folder + "?";
+    std::string question =
+        "Convert every iPart member of this assembly to a normal part saved in\r" + folder + "?";
     if (platform.MsgBox(question, ui::vbYesNo, kTitle) != ui::vbYes) return;
     int replaced = Convert(members, folder);
     platform.MsgBox(
@@ -113,6 +113,8 @@ void iPartConversion::WriteNormalPart(host::Document& member, const std::string&
         state_.fileSystem.DeleteFile(target);
         throw;
     }
+    // Closed here; the occurrences that point at it load it again.
+    copy->Close(true);
 }
 
 }  // namespace dialogs::ipart_conversion
