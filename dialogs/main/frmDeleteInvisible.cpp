@@ -53,23 +53,22 @@ void frmDeleteInvisible::cmdDelete_Click() {
     if (state_.platform.MsgBox(kFirstQuestion, ui::vbYesNo, kTitle) != ui::vbYes) return;
     if (state_.platform.MsgBox(kSecondQuestion, ui::vbYesNo, kTitle) != ui::vbYes) return;
     if (document->DocumentType() != host::kAssemblyDocumentObject) return;
-    Sweep(*document->ComponentDefinition()->Occurrences());
+    SweepInvisible(*document->ComponentDefinition()->Occurrences(), (*this)["chkDelTree"].Value() == 1,
+                   state_.platform);
     // Nothing counts the deletions: the report reads 0 whatever went.
     (*this)["Label1"].SetCaption(std::to_string(state_.deletedComponents) + " Parts & Assemblies Deleted");
 }
 
-// The subtree flag is only ever set with "Delete all levels" checked, so without it
-// nothing is deleted; and it carries over from one occurrence to the next of the same
-// collection. Both are how the tool has always behaved.
-bool frmDeleteInvisible::Sweep(host::ComponentOccurrences& occurrences) {
+// The subtree flag is only ever set with allLevels, so without it nothing is deleted; and
+// it carries over from one occurrence to the next of the same collection. Both are how the
+// tool has always behaved.
+bool SweepInvisible(host::ComponentOccurrences& occurrences, bool allLevels, ui::Platform& platform) {
     bool someVisible = false;
     bool subtreeClear = false;
     bool visible = false;
-    bool allLevels = (*this)["chkDelTree"].Value() == 1;
     for (std::int32_t i = occurrences.Count(); i >= 1; --i) {
         auto occurrence = occurrences.Item(i);
-        state_.platform.DoEvents();
-        // One retry; when both reads fail the previous occurrence's answer stands.
+        platform.DoEvents();
         for (int attempt = 0; attempt < 2; ++attempt) {
             try {
                 visible = occurrence->Visible();
@@ -77,7 +76,7 @@ bool frmDeleteInvisible::Sweep(host::ComponentOccurrences& occurrences) {
             } catch (const support::Error&) {
             }
         }
-        if (allLevels) subtreeClear = Sweep(*occurrence->SubOccurrences());
+        if (allLevels) subtreeClear = SweepInvisible(*occurrence->SubOccurrences(), allLevels, platform);
         if (!visible && subtreeClear)
             occurrence->Delete();
         else if (visible)

@@ -10,6 +10,13 @@ class ComponentOccurrences;
 
 namespace dialogs {
 
+// Deletes the invisible occurrences of one collection, last to first; true when the
+// collection holds no visible occurrence. With allLevels each occurrence's own
+// components are swept first, and an invisible occurrence goes only when nothing visible
+// was found below it; without it nothing is deleted. A visibility that cannot be read
+// is read once more, and when that fails too the previous occurrence's answer counts.
+bool SweepInvisible(host::ComponentOccurrences& occurrences, bool allLevels, ui::Platform& platform);
+
 // "Delelet Invisible Components": deletes the components of the active assembly that
 // are not visible, after two confirmations.
 class frmDeleteInvisible : public ui::Form {
@@ -25,9 +32,6 @@ protected:
 
 private:
     void cmdDelete_Click();
-    // Deletes the invisible occurrences of one collection, backwards; true when the
-    // collection holds no visible occurrence.
-    bool Sweep(host::ComponentOccurrences& occurrences);
 
     addin::AddinState& state_;
     std::intptr_t previousOwner_ = 0;
