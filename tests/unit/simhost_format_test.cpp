@@ -43,6 +43,28 @@ TEST_F(FormatTest, LoadThenSaveGivesTheSameJson) {
     }
 }
 
+// Whoever writes a fixture from the format's documentation gets files the host reads.
+TEST(FormatDocumentation, EveryExampleDocumentReads) {
+    std::ifstream in(fs::path(TARNWELL_SOURCE_DIR) / "docs" / "sim-format.md");
+    std::string line, block;
+    bool inBlock = false;
+    int documents = 0;
+    while (std::getline(in, line)) {
+        if (line == "```json") {
+            inBlock = true;
+            block.clear();
+        } else if (inBlock && line == "```") {
+            inBlock = false;
+            if (block.find("\"type\"") == std::string::npos) continue;  // a fragment, not a document
+            EXPECT_NO_THROW(Read(block, "C:\\Doc.ipt")) << block;
+            ++documents;
+        } else if (inBlock) {
+            block += line + "\n";
+        }
+    }
+    EXPECT_EQ(documents, 4);
+}
+
 TEST(FormatValues, TypedValuesKeepTheirKind) {
     const std::string text = R"({
   "type": "part",
