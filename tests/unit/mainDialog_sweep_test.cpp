@@ -110,12 +110,4 @@ TEST_F(SweepTest, AnInvisibleSubAssemblyStaysWhileItHoldsAVisibleComponent) {
     EXPECT_EQ(deleted, (std::vector<std::string>{"Pin", "Empty", "Bolt"}));
 }
 
-TEST_F(SweepTest, WithoutAllLevelsNothingIsDeleted) {
-    Add(top, "Hidden", {false});
-    auto& sub = Add(top, "Sub", {false});
-    Add(*sub.children, "Pin", {false});
-    EXPECT_TRUE(dialogs::SweepInvisible(top, false, platform));
-    EXPECT_TRUE(deleted.empty());
-}
-
 }  // namespace

@@ -23,19 +23,6 @@ TEST_F(PartPropsTest, RefusesToOpenWhileASketchIsEditedAndKeepsTheStoredPlace) {
     EXPECT_EQ(settings.values.count("PartProps/DialogLeft"), 0u);
 }
 
-TEST_F(PartPropsTest, AnAssemblyAtTopLevelIsTakenInTheContextOfAnAssembly) {
-    auto gearbox = host.Open("C:\\Work\\Gearbox.iam");
-    auto& dialog = state->Dialog<properties::frmPartProps>();
-    dialog.Show(false);
-    EXPECT_EQ(dialog.TargetDocument(), gearbox);
-    EXPECT_TRUE(dialog.AssemblyContext());
-    dialog.Unload();
-    auto bolt = host.Open("C:\\Work\\Hex Bolt M8x20.ipt");
-    dialog.Show(false);
-    EXPECT_EQ(dialog.TargetDocument(), bolt);
-    EXPECT_FALSE(dialog.AssemblyContext());
-}
-
 TEST_F(PartPropsTest, AStoredPositionAWindowCannotTakePlacesTheDialogAtTheDefault) {
     auto& dialog = state->Dialog<properties::frmPartProps>();
     auto placed = [&](const std::string& top) {

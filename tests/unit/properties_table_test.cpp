@@ -70,13 +70,4 @@ TEST_F(PropertyTableTest, CostAcceptsCurrencyAmountsOnlyAndStoresCurrency) {
     EXPECT_NE(out.str().find(kNotCurrency), std::string::npos);
 }
 
-TEST_F(PropertyTableTest, OnlyTheInputBoxRowsHaveATextEdit) {
-    for (int row :
-         {int{kFileNameRow}, int{kPathRow}, int{kColorRow}, int{kMaterialRow}, int{kMassRow}, 12, -1})
-        EXPECT_EQ(FindTextEdit(row), nullptr) << row;
-    for (int row : {int{kTitleRow}, int{kDescriptionRow}, int{kPartNumberRow}, int{kRevisionRow},
-                    int{kVendorRow}, int{kKeywordsRow}})
-        EXPECT_FALSE(FindTextEdit(row)->currency) << row;
-}
-
 }  // namespace
