@@ -13,13 +13,6 @@
 
 namespace dialogs {
 
-namespace {
-
-constexpr const char* kSection = "Preview";
-constexpr const char* kOrientationKey = "ThumbnailOrient";
-
-}  // namespace
-
 frmPreview::frmPreview(addin::AddinState& state)
     : ui::Form(state.platform, "frmPreview", "Edit Part and Assembly Properties"), state_(state) {
     On("ListBox1", ui::EventKind::DblClick, [this](int) { ListBox1_DblClick(); });
@@ -97,11 +90,11 @@ void frmPreview::BuildMenus() {
 void frmPreview::Form_Load() {
     previousOwner_ = state_.platform.SetOwner(*this, state_.App().MainFrameHWND());
     // A stored index that names no item leaves every item unchecked.
-    auto stored = support::ParseNumber(state_.GetSetting(kSection, kOrientationKey, "0"));
+    auto stored = support::ParseNumber(state_.GetSetting(kPreviewSection, kThumbnailOrientKey, "0"));
     for (auto* item : MenuArray("mnoOrient")) item->Checked = stored && *stored == item->Index;
     pick_ = std::make_unique<addin::clsPickOccur>(state_);
     picked_ = pick_->OnPicked.Subscribe([this] { OnPicked(); });
-    properties::RestorePosition(state_, *this, kSection);
+    properties::RestorePosition(state_, *this, kPreviewSection);
 }
 
 void frmPreview::Form_Activate() {
@@ -110,7 +103,7 @@ void frmPreview::Form_Activate() {
 }
 
 void frmPreview::Form_QueryUnload(bool& /*cancel*/) {
-    properties::SavePosition(state_, *this, kSection);
+    properties::SavePosition(state_, *this, kPreviewSection);
     state_.selectedOccurrence = nullptr;
     ReleasePick();
 }

@@ -15,6 +15,10 @@ class Document;
 
 namespace dialogs {
 
+// The dialog's settings section and the key of the chosen thumbnail orientation.
+inline constexpr const char* kPreviewSection = "Preview";
+inline constexpr const char* kThumbnailOrientKey = "ThumbnailOrient";
+
 // "Edit Part and Assembly Properties": the main tools dialog on an assembly. It lists
 // the properties of the shown document (the picked component's, or the top-level
 // document's when nothing is picked) and carries the component operations, thumbnails

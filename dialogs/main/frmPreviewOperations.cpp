@@ -124,7 +124,7 @@ void frmPreview::RunThumbnails(const std::shared_ptr<host::Document>& start, boo
     StopPicking();
     int checked = CheckedOrientation();
     // With no item checked the stored choice is left as it was.
-    if (checked >= 0) state_.SaveSetting("Preview", "ThumbnailOrient", std::to_string(checked));
+    if (checked >= 0) state_.SaveSetting(kPreviewSection, kThumbnailOrientKey, std::to_string(checked));
     thumbnails::ThumbnailRun run(state_, thumbnails::OrientationCode(checked));
     auto& document = support::Required(start, "document");
     if (withReferences)
