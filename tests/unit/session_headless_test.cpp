@@ -123,8 +123,7 @@ TEST_F(HeadlessPlatformTest, UnusedAnswersAndUnreachedYieldsAreLeftOvers) {
     auto leftovers = platform.Leftovers();
     ASSERT_EQ(leftovers.size(), 3u);
     EXPECT_EQ(leftovers[0].Describe(), "line 3: the answer \"Yes\" was queued but no msgbox asked for it");
-    EXPECT_EQ(leftovers[1].Describe(),
-              "line 7: the action at yield 5 never ran: the session yielded 1 times after it was scheduled");
+    EXPECT_EQ(leftovers[1].Describe(), "line 7: the action at yield 5 never ran: only 1 yields followed it");
     EXPECT_EQ(leftovers[2].Describe(),
               "line 12: the answer \"C:\\a.ipt\" was queued but no save-prompt asked for it");
 }

@@ -32,8 +32,8 @@ std::vector<ScriptError> HeadlessPlatform::Leftovers() const {
     auto errors = answers_.Unused();
     for (const auto& s : scheduled_)
         errors.emplace_back("the action at yield " + std::to_string(s.atYield - s.scheduledAt) +
-                                " never ran: the session yielded " + std::to_string(yields_ - s.scheduledAt) +
-                                " times after it was scheduled",
+                                " never ran: only " + std::to_string(yields_ - s.scheduledAt) +
+                                " yields followed it",
                             s.line);
     std::stable_sort(errors.begin(), errors.end(),
                      [](const ScriptError& a, const ScriptError& b) { return a.Line() < b.Line(); });
