@@ -154,7 +154,9 @@ std::shared_ptr<host::ButtonDefinition> SimSite::CreateButtonDefinition(
     const std::string& description, const std::string& tooltip, bool withIcon) {
     if (withIcon && state_.refuseIcons)
         throw Error(errors::kUnexpected, "The host refused the icon of \"" + internalName + "\"");
-    return std::make_shared<SimButtonDefinition>(internalName, displayName, withIcon);
+    auto definition = std::make_shared<SimButtonDefinition>(internalName, displayName, withIcon);
+    state_.commands->Defined(definition);
+    return definition;
 }
 
 }  // namespace simhost

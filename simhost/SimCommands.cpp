@@ -107,6 +107,20 @@ void CommandState::ClickButton(const std::string& internalName) {
     throw Error(errors::kInvalidArg, "No button \"" + internalName + "\" on any command bar");
 }
 
+void CommandState::Defined(const std::shared_ptr<host::ButtonDefinition>& definition) {
+    std::erase_if(definitions_, [](const auto& d) { return d.expired(); });
+    definitions_.push_back(definition);
+}
+
+void CommandState::RunCommand(const std::string& internalName) {
+    for (auto it = definitions_.rbegin(); it != definitions_.rend(); ++it)
+        if (auto definition = it->lock(); definition && definition->InternalName() == internalName) {
+            definition->OnExecute().Raise();
+            return;
+        }
+    throw Error(errors::kInvalidArg, "No command \"" + internalName + "\" is defined");
+}
+
 void CommandState::RaiseContextMenu() {
     auto menu = std::make_shared<SimCommandBar>("ContextMenu");
     userInput_->OnContextMenu().Raise(0, nullptr, menu);

@@ -137,12 +137,17 @@ public:
     std::int32_t InteractionsCreated() const { return created_; }
 
     void ClickButton(const std::string& internalName);
+    // Runs a defined command whether or not it sits on a bar, as the host's own command
+    // line does; the definition must still be alive.
+    void RunCommand(const std::string& internalName);
+    void Defined(const std::shared_ptr<host::ButtonDefinition>& definition);
     void RaiseContextMenu();
     std::string DescribeBars() const;
 
 private:
     std::shared_ptr<SimCommandBar> NewBar(const std::string& name);
     std::vector<std::shared_ptr<SimCommandBar>> bars_;
+    std::vector<std::weak_ptr<host::ButtonDefinition>> definitions_;
     std::shared_ptr<SimInteractionEvents> running_;
     std::int32_t created_ = 0;
     std::shared_ptr<SimUserInputEvents> userInput_ = std::make_shared<SimUserInputEvents>();

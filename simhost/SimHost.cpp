@@ -96,6 +96,10 @@ void SimHost::ClickButton(const std::string& internalName) {
     state_->commands->ClickButton(internalName);
 }
 
+void SimHost::RunCommand(const std::string& internalName) {
+    state_->commands->RunCommand(internalName);
+}
+
 void SimHost::Pick(const std::vector<std::string>& occurrencePaths) {
     auto running = state_->commands->Running();
     if (!running) throw Error(errors::kFail, "Nothing can be picked: no interaction is running");

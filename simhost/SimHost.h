@@ -55,14 +55,15 @@ public:
     // --- documents
     host::DocumentPtr Open(const std::string& fullFileName, bool visible = true);
     host::DocumentPtr NewDocument(std::int32_t documentType);  // never saved: empty FullFileName
-    void Activate(const std::string& fullFileName);             // make an open document the active one
+    void Activate(const std::string& fullFileName);            // make an open document the active one
     void CloseAll();
     void SetEditMode(EditMode mode, const std::string& occurrencePath = "");
     // An occurrence of the active assembly by names from the top: "Frame:1/Bracket:2".
     std::shared_ptr<host::ComponentOccurrence> FindOccurrence(const std::string& path);
 
     // --- the user's doing
-    void ClickButton(const std::string& internalName);  // throws when the button is on no bar
+    void ClickButton(const std::string& internalName);           // throws when the button is on no bar
+    void RunCommand(const std::string& internalName);            // a defined command, on a bar or not
     void Pick(const std::vector<std::string>& occurrencePaths);  // one selection, several entities
     void Escape();                                               // ends the running interaction
     void ContextMenu();
@@ -70,12 +71,12 @@ public:
 
     // --- faults
     void FailSaveOf(const std::string& fullFileName);  // saving this file fails
-    void RefuseWrites(bool refuse);                      // the disk refuses every write
+    void RefuseWrites(bool refuse);                    // the disk refuses every write
 
     // --- what tests and the transcript read
     bool InteractionRunning() const;
     std::int32_t InteractionsCreated() const;
-    std::string DescribeBars() const;                            // bar: buttons in order, one line a bar
+    std::string DescribeBars() const;                               // bar: buttons in order, one line a bar
     std::string DescribeDocument(const std::string& fullFileName);  // state, one fact a line
     std::string DescribeTree(const std::string& fullFileName);      // occurrences, indented
     std::string StatusBar() const;

@@ -143,6 +143,8 @@ void AddHostVerbs(std::vector<Verb>& verbs) {
 
     verbs.push_back({"button", "button INTERNAL-NAME", 1, 1,
                      [](Session& s, const Args& a) { s.Host().ClickButton(a.Text(0)); }});
+    verbs.push_back({"run-command", "run-command INTERNAL-NAME", 1, 1,
+                     [](Session& s, const Args& a) { s.Host().RunCommand(a.Text(0)); }});
     verbs.push_back({"pick", "pick OCCURRENCE-PATH...", 1, -1, [](Session& s, const Args& a) {
                          std::vector<std::string> paths;
                          for (std::size_t i = 0; i < a.Count(); ++i) paths.push_back(a.Text(i));

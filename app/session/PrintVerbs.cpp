@@ -46,6 +46,7 @@ void PrintHeld(Session& s, const Args&) {
     std::string names;
     for (const auto& name : s.Addin().HeldReferences()) names += (names.empty() ? "" : ", ") + name;
     s.Transcript().Write("held references: " + (names.empty() ? std::string("none") : names));
+    s.Transcript().Write("main dialog open: " + std::to_string(s.Addin().State().mainDialogOpen));
 }
 
 void PrintActive(Session& s, const Args&) {
