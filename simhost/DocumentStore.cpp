@@ -144,7 +144,14 @@ SimDocumentPtr DocumentStore::Add(DocKind kind, const std::string& templateFileN
         if (data.kind != kind)
             throw Error(errors::kInvalidArg, name + ": a " + std::string(KindName(data.kind)) +
                                                  " template cannot start a new " + KindName(kind));
-        ForEachRef(data, [&](FileRef& ref) { ref.doc = Reference(ref.file); });
+        try {
+            ForEachRef(data, [&](FileRef& ref) { ref.doc = Reference(ref.file); });
+        } catch (...) {
+            ForEachRef(data, [&](FileRef& ref) {
+                if (ref.doc) DropIfUnused(ref.doc);
+            });
+            throw;
+        }
         ForEachRef(data, [&](FileRef& ref) { ++ref.doc->session.referrers; });
     }
     data.savedBy = state_.softwareVersion;
@@ -159,7 +166,9 @@ SimDocumentPtr DocumentStore::Add(DocKind kind, const std::string& templateFileN
     return doc;
 }
 
+// Another document coming to the front ends whatever was being edited in the last one.
 void DocumentStore::Show(SimDocument& doc) {
+    if (!shown_.empty() && shown_.back() == &doc) return;
     std::erase(shown_, &doc);
     shown_.push_back(&doc);
     state_.editMode = EditMode::TopLevel;

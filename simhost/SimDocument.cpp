@@ -128,6 +128,7 @@ void SimDocument::NameUnnamedOccurrences() {
         occ.name = FreeDefaultName(occ.ref.doc->BaseNameForOccurrences(), occ.uid);
         byName_[occ.name] = occ.uid;
     }
+    indexStale_ = true;  // the unnamed ones were indexed under ""
 }
 
 bool SimDocument::IsReferencedBy(const SimDocument& target) const {

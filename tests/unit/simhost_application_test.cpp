@@ -40,6 +40,14 @@ TEST_F(ApplicationTest, BarsButtonsAndIcons) {
     EXPECT_EQ(clicks, 1);
     EXPECT_EQ(ErrorOf([&] { host.ClickButton("TarnwellCmd2"); }).Number(), errors::kInvalidArg);
 
+    int menus = 0;
+    auto menu = site->Application()->CommandManager()->UserInputEvents()->OnContextMenu().Subscribe(
+        [&](std::int32_t, host::ObjectPtr, std::shared_ptr<host::CommandBar> bar) {
+            menus += bar != nullptr;
+        });
+    host.ContextMenu();
+    EXPECT_EQ(menus, 1);
+
     host.SetRefuseIcons(true);
     auto e = ErrorOf([&] { site->CreateButtonDefinition("TarnwellCmd2", 4, "PartProps", "", "", true); });
     EXPECT_EQ(e.Number(), errors::kUnexpected);
@@ -99,6 +107,8 @@ TEST_F(ApplicationTest, ActiveEditObjectTellsWhatIsBeingEdited) {
     EXPECT_NE(app->ActiveEditObject()->Type(), host::kDocumentObject);
     EXPECT_EQ(ErrorOf([&] { host.SetEditMode(simhost::EditMode::InPlace, "Nope:1"); }).Number(),
               errors::kFail);
+    host.Open("C:\\Work\\Gearbox.iam");  // the document already in front: the edit goes on
+    EXPECT_NE(app->ActiveEditObject()->Type(), host::kDocumentObject);
     auto part = host.Open("C:\\Work\\Spur Gear.ipt");  // showing another document ends the edit
     EXPECT_EQ(app->ActiveEditObject(), part);
     host.Activate("C:\\Work\\Gearbox.iam");

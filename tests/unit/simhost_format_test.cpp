@@ -196,6 +196,7 @@ TEST_F(FormatLoadTest, UnnamedOccurrencesGetDefaultNamesAndMissingPropertiesRead
     auto occurrences = doc->ComponentDefinition()->Occurrences();
     EXPECT_EQ(occurrences->Item(2)->Name(), "Spur Gear:1");
     EXPECT_EQ(occurrences->Item(3)->Name(), "Spur Gear:3");
+    EXPECT_EQ(ErrorOf([&] { host.FindOccurrence(""); }).Number(), support::errors::kFail);
     auto design = doc->PropertySets()->Item(3);
     EXPECT_EQ(design->Item(14)->Value(), support::Variant(""));
     EXPECT_EQ(design->Item(21)->Value(), support::Variant(support::Currency{}));
