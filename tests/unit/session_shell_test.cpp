@@ -1,0 +1,59 @@
+// The session's two ways of playing: a script stops at its first mistake, the keyboard
+// reports it and reads on.
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "app/session/Session.h"
+
+namespace {
+
+std::string Settings() {
+    return ::testing::TempDir() + "session_shell_test.ini";
+}
+
+TEST(SessionShell, TheKeyboardReportsMistakesAndReadsOn) {
+    std::ostringstream out;
+    std::istringstream in("echo one\nclik\n\nanswer msgbox \"Yes\nbutton TarnwellCmd1\necho two\n");
+    session::Session session(out, Settings());
+    session::KeyboardSource keyboard(in, out, false);
+    EXPECT_EQ(session.Run(keyboard), 0);
+    EXPECT_EQ(out.str(),
+              "# one\n"
+              "script error: line 2: unknown verb \"clik\" (docs/session.md lists them)\n"
+              "script error: line 4: a quoted text is not closed\n"
+              "> button TarnwellCmd1\n"
+              "failed: error 0x80070057: No button \"TarnwellCmd1\" on any command bar\n"
+              "# two\n");
+    EXPECT_EQ(session.Errors().size(), 2u);
+}
+
+TEST(SessionShell, AScriptStopsAtItsFirstMistake) {
+    std::ostringstream out;
+    session::Session session(out, Settings());
+    session::ScriptSource script(
+        session::ParseScript("echo one\nbutton TarnwellCmd2\nclick frmNone.cmdOK\necho never\n"));
+    EXPECT_EQ(session.Run(script), 1);
+    EXPECT_EQ(out.str(),
+              "# one\n"
+              "> button TarnwellCmd2\n"
+              "failed: error 0x80070057: No button \"TarnwellCmd2\" on any command bar\n"
+              "> click frmNone.cmdOK\n"
+              "script error: line 3: no form frmNone is loaded (loaded: none)\n");
+    EXPECT_EQ(session.Errors(),
+              (std::vector<std::string>{"line 3: no form frmNone is loaded (loaded: none)"}));
+}
+
+TEST(SessionShell, TheKeyboardPromptSaysWhatTheAddinWaitsFor) {
+    std::ostringstream out;
+    std::istringstream in("drive C: \"" TARNWELL_SOURCE_DIR
+                          "/examples/workspace\"\naddin activate\nopen C:\\Work\\Gearbox.iam\n"
+                          "button TarnwellCmd1\nclick frmPreview.cmdClone\nescape\n");
+    session::Session session(out, Settings());
+    session::KeyboardSource keyboard(in, out, true);
+    EXPECT_EQ(session.Run(keyboard), 0);
+    EXPECT_NE(out.str().find("tarnwell> > click frmPreview.cmdClone\n"), std::string::npos) << out.str();
+    EXPECT_NE(out.str().find("tarnwell [a blocking pick]>   > escape\n"), std::string::npos) << out.str();
+}
+
+}  // namespace
