@@ -9,8 +9,6 @@
 #include "app/session/ScratchFolder.h"
 #include "app/session/Script.h"
 #include "app/session/TranscriptObserver.h"
-#include "host/Component.h"
-#include "host/Document.h"
 #include "settings/Settings.h"
 #include "simhost/SimHost.h"
 #include "ui/headless/HeadlessPlatform.h"

@@ -1,6 +1,4 @@
 #pragma once
-#include "host/Component.h"
-#include "host/Document.h"
 #include "simhost/SimHost.h"
 #include "ui/headless/Transcript.h"
 
