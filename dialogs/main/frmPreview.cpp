@@ -82,6 +82,7 @@ void frmPreview::BuildMenus() {
     AddMenu("mnuUnlock", "Unlock", "mnuPopUp");
     AddMenu("mnuExplorer", "Explore", "mnuPopUp");
     AddMenu("mnuiPartToNormal", "Convert iPart to Normal", "mnuPopUp");
+    AddMenu("mnuSaveAsReplace", "Save As and Replace", "mnuPopUp");
     AddMenu("mnuHelp", "Help");
     AddMenu("mnuAutoUpdate", "AutoUpdate", "mnuHelp");
     AddMenu("mnuAbout", "About", "mnuHelp");

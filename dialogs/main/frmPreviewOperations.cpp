@@ -3,6 +3,7 @@
 #include "copy/frmCloneNames.h"
 #include "copy/frmOpenIDW.h"
 #include "copy/frmPacknLink.h"
+#include "copy/frmSaveAsReplace.h"
 #include "copy/modBuildAssembly.h"
 #include "copy/paths/Paths.h"
 #include "dialogs/main/BrowserNames.h"
@@ -40,6 +41,7 @@ void frmPreview::BindOperations() {
     OnMenu("mnuiPartToNormal", [this](int) { mnuiPartToNormal_Click(); });
     On("cmdClone", ui::EventKind::Click, [this](int) { ShowToolDialog<copy::frmCloneNames>(); });
     On("cmdPackNLink", ui::EventKind::Click, [this](int) { ShowToolDialog<copy::frmPacknLink>(); });
+    OnMenu("mnuSaveAsReplace", [this](int) { ShowToolDialog<copy::frmSaveAsReplace>(); });
     On("cmdOpenIDW", ui::EventKind::Click, [this](int) { OpenDrawingOf(ShownDocument()); });
     On("cmdTopIDW", ui::EventKind::Click, [this](int) { OpenDrawingOf(state_.App().ActiveDocument()); });
     On("cmdMakeLite", ui::EventKind::Click, [this](int) { cmdMakeLite_Click(); });
