@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -41,9 +42,10 @@ protected:
 
     void SetUp() override {
         const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        root = fs::temp_directory_path() /
-               ("tarnwell-simhost-" + std::string(info->test_suite_name()) + "-" + info->name());
-        fs::remove_all(root);
+        // Unique per run: several test programs may run at once on one machine.
+        std::random_device random;
+        root = fs::temp_directory_path() / ("tarnwell-simhost-" + std::string(info->test_suite_name()) + "-" +
+                                            info->name() + "-" + std::to_string(random()));
         fs::create_directories(root);
         fs::copy(fs::path(TARNWELL_SOURCE_DIR) / "examples" / "workspace", root, fs::copy_options::recursive);
         host.MapDrive('C', root);
