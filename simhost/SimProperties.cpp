@@ -126,12 +126,8 @@ void SimProperty::SetValue(const Variant& value) {
     std::string name = Name();
     if (!PlainValue(value))
         throw Error(errors::kTypeMismatch, "Type mismatch: \"" + name + "\" takes no value of this kind");
-    if (!HasDefinitions(set)) {
-        auto& list = doc_->Data().propertySets[set].properties;
-        auto it =
-            std::find_if(list.begin(), list.end(), [&](const StoredProperty& p) { return p.id == propId_; });
-        if (it->value == value) return;
-        FindStored(doc_->Edit().propertySets[set].properties, propId_)->value = value;
+    if (!HasDefinitions(set)) {  // a custom property takes any plain value
+        if (Value() != value) FindStored(doc_->Edit().propertySets[set].properties, propId_)->value = value;
         return;
     }
     const catalog::PropertyDef& def = *catalog::FindById(catalog::StandardSets()[set], propId_);
