@@ -52,7 +52,7 @@ void frmOpenIDW::Form_Load() {
     if (drawingFile.empty()) {
         // No link kept yet: the host's own guess counts when that file is really there.
         std::string candidate = state_.App().FileLocations()->FindDrawing(model_->FullFileName(), "iparts");
-        if (!candidate.empty() && state_.fileSystem.FileExists(candidate)) {
+        if (!candidate.empty() && FileExists(state_.fileSystem, candidate)) {
             auto found = SplitPath(candidate);
             drawingFile = found.fileName;
             drawingPath = found.directory;
@@ -69,7 +69,7 @@ std::string frmOpenIDW::DrawingFullFileName() {
 
 void frmOpenIDW::UpdateOpenButton() {
     (*this)["cmdOpenIDW"].Enabled =
-        !(*this)["txtDrawingFile"].Text().empty() && state_.fileSystem.FileExists(DrawingFullFileName());
+        !(*this)["txtDrawingFile"].Text().empty() && FileExists(state_.fileSystem, DrawingFullFileName());
 }
 
 void frmOpenIDW::cmdBrowse_Click() {

@@ -75,7 +75,7 @@ void frmSaveAsReplace::MakeIndependent_Click() {
         state_.platform.MsgBox("Old and New filenames cannot be the same");
         return;
     }
-    if (state_.fileSystem.FileExists(newName)) {
+    if (FileExists(state_.fileSystem, newName)) {
         state_.platform.MsgBox("New File Already exist");
         return;
     }

@@ -50,7 +50,7 @@ void SaveAndReplaceOccurrence(addin::AddinState& state, host::ComponentOccurrenc
     std::string newName = FormCopyName(document->FullFileName(), prefix, suffix, targetDir);
     auto& dialog = state.Dialog<frmCloneNames>();
 
-    if (!state.fileSystem.FileExists(newName)) {
+    if (!FileExists(state.fileSystem, newName)) {
         dialog.ShowStatus("Saving: " + newName);
         document->SaveAs(newName, true);
     }

@@ -1,6 +1,7 @@
 #include "copy/paths/Paths.h"
 
 #include "host/Application.h"
+#include "host/FileSystem.h"
 #include "support/Text.h"
 
 namespace copy {
@@ -9,6 +10,14 @@ SplitPathResult SplitPath(const std::string& fullFileName) {
     auto last = fullFileName.rfind('\\');
     if (last == std::string::npos) return {"", fullFileName};
     return {fullFileName.substr(0, last + 1), fullFileName.substr(last + 1)};
+}
+
+bool FileExists(host::FileSystem& fileSystem, const std::string& fullFileName) {
+    try {
+        return fileSystem.FileExists(fullFileName);
+    } catch (const support::Error&) {
+        return false;
+    }
 }
 
 std::string BrowseForFolder(host::Application& hostApplication, ui::Platform& platform,

@@ -5,7 +5,8 @@
 
 namespace host {
 class Application;
-}
+class FileSystem;
+}  // namespace host
 
 // The path splitter, the folder picker and the two file prompts that most dialogs share.
 namespace copy {
@@ -16,6 +17,10 @@ struct SplitPathResult {
 };
 
 SplitPathResult SplitPath(const std::string& fullFileName);
+
+// Whether a file of that name exists. A name that is no full path (empty, no drive)
+// names no file here: whatever then tries to write it reports the failure.
+bool FileExists(host::FileSystem& fileSystem, const std::string& fullFileName);
 
 // The shell's folder picker, owned by the host's active view; "" when cancelled.
 std::string BrowseForFolder(host::Application& hostApplication, ui::Platform& platform,
