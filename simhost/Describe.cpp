@@ -81,12 +81,24 @@ std::string Document(SimState& state, const std::string& fullFileName) {
     return DocumentLines(name, data, "on disk", display);
 }
 
+namespace {
+// A document never saved has no file name; it is known by its display name ("Assembly1").
+SimDocumentPtr NeverSaved(SimState& state, const std::string& displayName) {
+    for (std::int32_t i = 1; i <= state.documents.Count(); ++i) {
+        auto doc = state.documents.Item(i);
+        if (doc->FullFileName().empty() && doc->DisplayName() == displayName) return doc;
+    }
+    return nullptr;
+}
+}  // namespace
+
 std::string Tree(SimState& state, const std::string& fullFileName) {
-    auto doc = state.documents.Find(fullFileName);
+    auto doc = NeverSaved(state, fullFileName);
+    if (!doc) doc = state.documents.Find(fullFileName);
     if (!doc)
         throw support::Error(support::errors::kFail,
                              "Cannot describe the tree of " + fullFileName + ": it is not open");
-    std::string out = doc->FullFileName() + "\n";
+    std::string out = (doc->FullFileName().empty() ? doc->DisplayName() : doc->FullFileName()) + "\n";
     TreeLines(*doc, 1, out);
     return out;
 }
