@@ -85,10 +85,9 @@ void PackDocument(addin::AddinState& state, host::Document& document, std::strin
     dialog.ShowStatus("Packing: " + document.FullFileName());
     if (state.packStop) return;
 
-    std::string fileName = SplitPath(document.FullFileName()).fileName;
-    std::string sourceDir = SplitPath(document.FullFileName()).directory;
+    auto source = SplitPath(document.FullFileName());
     EnsureTrailingBackslash(targetDir);
-    if (targetDir == sourceDir) {
+    if (targetDir == source.directory) {
         state.platform.MsgBox("Source and Destination directories cannot be the same");
         state.packStop = true;
         return;
@@ -98,7 +97,7 @@ void PackDocument(addin::AddinState& state, host::Document& document, std::strin
     // copied and replaced so far stays; the opened copy is left as it is, unsaved.
     auto& app = state.App();
     try {
-        std::string newName = targetDir + fileName;
+        std::string newName = targetDir + source.fileName;
         if (dialog.DiskToDisk())
             app.FileManager()->CopyFile(document.FullFileName(), newName, host::kOverwriteExistingFile);
         else
