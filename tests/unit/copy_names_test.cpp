@@ -30,7 +30,7 @@ TEST(FormCopyName, JoinsTheTargetWithOneBackslashAndHandsItBack) {
 }
 
 TEST(FormCopyName, TakesTheLastFourCharactersAsExtensionBlindly) {
-    EXPECT_EQ(Copy("D:\\P\\Spec.iproj", "", "-1"), "C:\\Temp\\Spec.i-1proj");
+    EXPECT_EQ(Copy("D:\\P\\Layout.iproj", "", "-1"), "C:\\Temp\\Layout.i-1proj");
     EXPECT_EQ(Copy("D:\\P\\.ipt", "p", "s"), "C:\\Temp\\ps.ipt");
     try {
         Copy("D:\\P\\a.b", "p", "s");
