@@ -304,7 +304,11 @@ void DocumentStore::SaveAs(SimDocument& doc, const std::string& fullFileName, bo
         throw Error(errors::kInvalidArg,
                     "Cannot save a " + std::string(KindName(doc.Data().kind)) + " as " + name);
     auto other = Find(name);
-    if (other && other.get() != &doc) throw Error(errors::kFail, name + " is open as another document");
+    // A copy may replace the file of another open document only while that document has
+    // nothing unsaved to lose: packing from memory writes a part used under two parents
+    // twice, the second time over the copy the first replace opened.
+    if (other && other.get() != &doc && (!saveCopyAs || other->Dirty()))
+        throw Error(errors::kFail, name + " is open as another document");
     WriteFile(doc, name);
     if (saveCopyAs && other.get() != &doc) return;
     if (!doc.FullFileName().empty()) byName_.erase(Key(doc.FullFileName()));

@@ -72,9 +72,16 @@ TEST_F(DocumentsTest, SaveCopyAsWritesTheInMemoryStateAndKeepsTheName) {
     // The copy is a separate document once opened.
     auto opened = host.Open("C:\\Work\\Gearbox Copy.iam", false);
     EXPECT_NE(opened, top);
-    // Saving over a file that is open as another document fails; over its own is a save.
+    // A copy may go over the file of another open document while that one is clean, never
+    // over its unsaved edits; over its own file it is a save.
+    top->SaveAs("C:\\Work\\gearbox copy.iam", true);
+    opened->SetDisplayName("edited");
+    ASSERT_TRUE(opened->Dirty());
     auto e = ErrorOf([&] { top->SaveAs("C:\\Work\\gearbox copy.iam", true); });
     EXPECT_NE(e.Description().find("is open as another document"), std::string::npos);
+    EXPECT_NE(
+        ErrorOf([&] { top->SaveAs("C:\\Work\\Gearbox Copy.iam", false); }).Description().find("is open"),
+        std::string::npos);
     top->SaveAs("C:\\Work\\Gearbox.iam", true);
     EXPECT_FALSE(top->Dirty());
     EXPECT_EQ(ErrorOf([&] { top->SaveAs("C:\\Work\\Gearbox.ipt", true); }).Number(), errors::kInvalidArg);
