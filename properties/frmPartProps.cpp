@@ -31,6 +31,9 @@ frmPartProps::frmPartProps(addin::AddinState& state)
     On("cmdOpenIDW", ui::EventKind::Click, [this](int) { cmdOpenIDW_Click(); });
     On("cmdCancel", ui::EventKind::Click, [this](int) { cmdCancel_Click(); });
     OnMenu("mnuExplore", [this](int) { mnuExplore_Click(); });
+    On("ListBox1", ui::EventKind::MouseUp, [this](int button) {
+        if (button == ui::kRightButton) platform().PopupMenu(*this, "mnuPopup");
+    });
 }
 
 void frmPartProps::Build() {

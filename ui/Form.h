@@ -13,7 +13,9 @@ namespace ui {
 enum class ControlKind { Button, CheckBox, OptionButton, TextBox, Label, ListBox, ComboBox, Picture, Frame };
 const char* KindName(ControlKind kind);
 
+// A MouseUp handler receives the mouse button (1 left, 2 right) where others get the index.
 enum class EventKind { Click, DblClick, Change, LostFocus, MouseUp };
+inline constexpr int kRightButton = 2;
 const char* EventName(EventKind kind);
 
 class Form;

@@ -20,17 +20,25 @@ enum MsgBoxStyle : int {
     vbExclamation = 48,
     vbInformation = 64,
 };
-enum MsgBoxResult : int { vbOK = 1, vbCancel = 2, vbAbort = 3, vbRetry = 4, vbIgnore = 5, vbYes = 6, vbNo = 7 };
+enum MsgBoxResult : int {
+    vbOK = 1,
+    vbCancel = 2,
+    vbAbort = 3,
+    vbRetry = 4,
+    vbIgnore = 5,
+    vbYes = 6,
+    vbNo = 7
+};
 
 // The title every message box carries when its caller gives none.
 inline constexpr const char* kAppTitle = "Tarnwell";
 
 struct FileDialogRequest {
     std::string title;
-    std::string filter;       // "Inventor Part Files (*.ipt)|*.ipt", or "" for none
+    std::string filter;  // "Inventor Part Files (*.ipt)|*.ipt", or "" for none
     int filterIndex = 1;
-    std::string initialDir;   // Windows path
-    std::string fileName;     // proposed file name
+    std::string initialDir;  // Windows path
+    std::string fileName;    // proposed file name
 };
 
 // Everything the add-in asks of the desktop it runs on. The Win32 build talks to
@@ -40,7 +48,8 @@ public:
     virtual ~Platform() = default;
 
     // Modal boxes. buttons is a MsgBoxStyle value; an empty title means kAppTitle.
-    virtual MsgBoxResult MsgBox(const std::string& prompt, int buttons = vbOKOnly, const std::string& title = "") = 0;
+    virtual MsgBoxResult MsgBox(const std::string& prompt, int buttons = vbOKOnly,
+                                const std::string& title = "") = 0;
     // "" when the user cancels.
     virtual std::string InputBox(const std::string& prompt, const std::string& title,
                                  const std::string& defaultText) = 0;
@@ -55,6 +64,8 @@ public:
     virtual std::string ApplicationPath(const std::string& exeName) = 0;
     // Brings the window with this caption to the front; false when there is none.
     virtual bool AppActivate(const std::string& caption) = 0;
+    // Shows one of a form's menus as a pop-up at the pointer; the user's next click picks an item.
+    virtual void PopupMenu(Form& form, const std::string& menu) = 0;
     // Gives a form an owner window; returns the previous owner.
     virtual std::intptr_t SetOwner(Form& form, std::intptr_t ownerWindow) = 0;
 

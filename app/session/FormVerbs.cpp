@@ -134,6 +134,14 @@ void DoubleClick(Session& s, const Args& args) {
     form.Raise(target.member, EventKind::DblClick, target.index);
 }
 
+// The right button released over a control: the form decides what pops up.
+void RightClick(Session& s, const Args& args) {
+    auto target = ParseTarget(args, 0);
+    auto& form = s.LoadedForm(target.form);
+    Reach(form, target.member);
+    form.Raise(target.member, EventKind::MouseUp, ui::kRightButton);
+}
+
 void Choose(Session& s, const Args& args) {
     auto target = ParseTarget(args, 0);
     auto& form = s.LoadedForm(target.form);
@@ -219,6 +227,7 @@ void AddFormVerbs(std::vector<Verb>& verbs) {
              CheckTarget(a);
              CheckRow(a, 1);
          }});
+    verbs.push_back({"rightclick", "rightclick FORM.CONTROL", 1, 1, RightClick, CheckTarget});
     verbs.push_back(
         {"choose", "choose FORM.LIST ROW | choose FORM.LIST \"ROW TEXT\" | choose FORM.LIST ROW \"ROW TEXT\"",
          2, 3, Choose, [](const Args& a) {

@@ -16,6 +16,9 @@ namespace dialogs {
 frmPreview::frmPreview(addin::AddinState& state)
     : ui::Form(state.platform, "frmPreview", "Edit Part and Assembly Properties"), state_(state) {
     On("ListBox1", ui::EventKind::DblClick, [this](int) { ListBox1_DblClick(); });
+    On("ListBox1", ui::EventKind::MouseUp, [this](int button) {
+        if (button == ui::kRightButton) platform().PopupMenu(*this, "mnuPopUp");
+    });
     On("cmdSelect", ui::EventKind::Click, [this](int) { TogglePicking(); });
     On("cmdCancel", ui::EventKind::Click, [this](int) {
         Unload();

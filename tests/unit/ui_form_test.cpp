@@ -23,6 +23,7 @@ public:
     void Shell(const std::string&, int) override {}
     std::string ApplicationPath(const std::string&) override { return ""; }
     bool AppActivate(const std::string&) override { return true; }
+    void PopupMenu(ui::Form&, const std::string&) override {}
     std::intptr_t SetOwner(ui::Form&, std::intptr_t) override { return 0; }
     void DoEvents() override {}
     void WaitForInput(const std::string&) override {}

@@ -110,6 +110,11 @@ std::string HeadlessPlatform::ApplicationPath(const std::string& exeName) {
     return found == appPaths_.end() ? "" : found->second;
 }
 
+void HeadlessPlatform::PopupMenu(Form& form, const std::string& menu) {
+    form.Menu(menu);  // a menu the form does not have is the add-in's mistake, reported as such
+    transcript_.Write("popup-menu " + form.Name() + "." + menu);
+}
+
 // As the desktop does: a window whose caption is the text, else one whose caption
 // begins with it.
 bool HeadlessPlatform::AppActivate(const std::string& caption) {

@@ -59,6 +59,7 @@ public:
     void Shell(const std::string& commandLine, int windowStyle) override;
     std::string ApplicationPath(const std::string& exeName) override;
     bool AppActivate(const std::string& caption) override;
+    void PopupMenu(Form& form, const std::string& menu) override;
     std::intptr_t SetOwner(Form& form, std::intptr_t ownerWindow) override;
     void DoEvents() override;
     void WaitForInput(const std::string& what) override;
