@@ -19,7 +19,9 @@ void VirtualDrive::Map(char letter, const fs::path& folder) {
     cache_.clear();
 }
 
-const VirtualDrive::Listing* VirtualDrive::ListingOf(const fs::path& hostFolder) const {
+const VirtualDrive::Listing* VirtualDrive::ListingOf(const fs::path& hostFolder, bool trustCache) const {
+    if (trustCache)
+        if (auto held = cache_.find(hostFolder.string()); held != cache_.end()) return &held->second;
     std::error_code ec;
     auto stamp = fs::last_write_time(hostFolder, ec);
     if (ec) return nullptr;
@@ -62,10 +64,14 @@ VirtualDrive::Resolved VirtualDrive::Resolve(std::string_view windowsPath) const
         bool last = i + 1 == parsed.components.size();
         if (last) out.parentExists = present;
         const Entry* hit = nullptr;
-        if (const Listing* listing = present ? ListingOf(out.hostPath) : nullptr) {
-            auto found = listing->byLower.find(winpath::Lower(part));
-            if (found != listing->byLower.end()) hit = &found->second;
-        }
+        auto lookUp = [&](bool trustCache) {
+            if (const Listing* listing = present ? ListingOf(out.hostPath, trustCache) : nullptr) {
+                auto found = listing->byLower.find(winpath::Lower(part));
+                if (found != listing->byLower.end()) hit = &found->second;
+            }
+        };
+        lookUp(!last);
+        if (!hit && !last) lookUp(false);
         if (hit) {
             stored.push_back(hit->name);
             out.hostPath /= hit->name;

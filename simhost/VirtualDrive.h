@@ -43,7 +43,10 @@ private:
         std::filesystem::file_time_type stamp;
         std::unordered_map<std::string, Entry> byLower;
     };
-    const Listing* ListingOf(const std::filesystem::path& hostFolder) const;
+    // The folder's listing, read again when the folder changed on disk. With trustCache a
+    // listing already held is used without asking the disk: the walk down a path checks
+    // only the folder that holds the last name, and re-checks the others on a miss.
+    const Listing* ListingOf(const std::filesystem::path& hostFolder, bool trustCache = false) const;
     void Restamp(const std::filesystem::path& hostFolder, Listing& listing) const;
 
     std::map<char, std::filesystem::path> drives_;
