@@ -31,8 +31,7 @@ class FileManager {
 public:
     virtual ~FileManager() = default;
     // Copies a host file; option kOverwriteExistingFile replaces an existing target.
-    virtual void CopyFile(const std::string& source, const std::string& destination,
-                          std::int32_t option) = 0;
+    virtual void CopyFile(const std::string& source, const std::string& destination, std::int32_t option) = 0;
 };
 
 class FileLocations {

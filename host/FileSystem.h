@@ -14,7 +14,7 @@ public:
     virtual bool FolderExists(const std::string& path) const = 0;
     virtual bool IsReadOnly(const std::string& path) const = 0;
     virtual void SetReadOnly(const std::string& path, bool readOnly) = 0;
-    virtual std::string ReadText(const std::string& path) const = 0;  // throws when missing
+    virtual std::string ReadText(const std::string& path) const = 0;               // throws when missing
     virtual void WriteText(const std::string& path, const std::string& text) = 0;  // whole or nothing
     virtual void CopyFile(const std::string& source, const std::string& destination, bool overwrite) = 0;
     virtual void DeleteFile(const std::string& path) = 0;

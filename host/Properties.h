@@ -16,7 +16,7 @@ public:
     virtual std::int32_t PropId() const = 0;
     virtual support::Variant Value() const = 0;
     virtual void SetValue(const support::Variant& value) = 0;  // throws on a refused value
-    virtual void Delete() = 0;                                  // custom properties only
+    virtual void Delete() = 0;                                 // custom properties only
 };
 
 class PropertySet {
@@ -38,7 +38,7 @@ class PropertySets {
 public:
     virtual ~PropertySets() = default;
     virtual std::int32_t Count() const = 0;
-    virtual std::shared_ptr<PropertySet> Item(std::int32_t position) = 0;       // from 1
+    virtual std::shared_ptr<PropertySet> Item(std::int32_t position) = 0;        // from 1
     virtual std::shared_ptr<PropertySet> Item(const std::string& nameOrId) = 0;  // name or format id
     virtual std::shared_ptr<PropertySet> Add(const std::string& name, const std::string& formatId) = 0;
     virtual bool PropertySetExists(const std::string& nameOrId) const = 0;
