@@ -55,6 +55,9 @@ void frmDeleteInvisible::cmdDelete_Click() {
     if (document->DocumentType() != host::kAssemblyDocumentObject) return;
     SweepInvisible(*document->ComponentDefinition()->Occurrences(), (*this)["chkDelTree"].Value() == 1,
                    state_.platform);
+    // The picked component may be among those deleted, and nothing can be read from a
+    // deleted occurrence: the main dialog and the copy tools go back to the top level.
+    state_.selectedOccurrence = nullptr;
     // Nothing counts the deletions: the report reads 0 whatever went.
     (*this)["Label1"].SetCaption(std::to_string(state_.deletedComponents) + " Parts & Assemblies Deleted");
 }
