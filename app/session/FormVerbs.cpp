@@ -1,5 +1,6 @@
 // Verbs that act on the add-in's forms as the user does: by form.control names.
 #include <algorithm>
+#include <charconv>
 
 #include "app/session/Session.h"
 #include "app/session/Verb.h"
@@ -35,7 +36,9 @@ Target ParseTarget(const Args& args, std::size_t i) {
         bool ok = number.size() >= 2 && number.back() == ')' &&
                   std::all_of(number.begin(), number.end() - 1, [](char c) { return c >= '0' && c <= '9'; });
         if (!ok || open == 0) args.Fail("expected FORM.CONTROL(INDEX)");
-        target.index = std::stoi(number);
+        auto parsed = std::from_chars(number.data(), number.data() + number.size() - 1, target.index);
+        if (parsed.ec != std::errc())
+            args.Fail("the index " + number.substr(0, number.size() - 1) + " is too large");
         target.member.resize(open);
     }
     return target;

@@ -48,6 +48,8 @@ TEST(SessionVerbs, WordsMustFitTheVerb) {
     EXPECT_EQ(Find("click cmdClone"), "expected FORM.CONTROL; usage: click FORM.CONTROL[(INDEX)]");
     EXPECT_EQ(Find("menu frmPreview.mnoOrient(x)"),
               "expected FORM.CONTROL(INDEX); usage: menu FORM.MENU[(INDEX)]");
+    EXPECT_EQ(Find("click frmX.cmdGo(99999999999)"),
+              "the index 99999999999 is too large; usage: click FORM.CONTROL[(INDEX)]");
     EXPECT_EQ(Find("dblclick frmPreview.ListBox1 -1"),
               "rows count from 0; usage: dblclick FORM.CONTROL [ROW] [\"ROW TEXT\"]");
     EXPECT_EQ(Find("dblclick frmPreview.ListBox1 Title"),
