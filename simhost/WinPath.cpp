@@ -1,5 +1,6 @@
 #include "simhost/WinPath.h"
 
+#include <algorithm>
 #include <cctype>
 
 #include "support/Error.h"
@@ -43,7 +44,13 @@ Parsed Parse(std::string_view path) {
             if (out.components.empty()) throw notAPath();
             out.components.pop_back();
         } else if (!part.empty() && part != ".") {
-            if (part.find_first_of("<>:\"|?*") != std::string_view::npos) throw notAPath();
+            // The host's file system takes none of these in a name, nor a control character;
+            // a NUL would even cut the name short on the disk below and write another file.
+            bool refused = std::any_of(part.begin(), part.end(), [](char c) {
+                return static_cast<unsigned char>(c) < 32 ||
+                       std::string_view("<>:\"|?*").find(c) != std::string_view::npos;
+            });
+            if (refused) throw notAPath();
             out.components.emplace_back(part);
         }
         start = end + 1;

@@ -41,6 +41,12 @@ TEST_F(DriveTest, PathsOutsideTheMappedDrivesFailClearly) {
     EXPECT_EQ(ErrorOf([&] { host.FileSystem().FileExists("Work\\Gearbox.iam"); }).Number(),
               errors::kPathNotFound);
     EXPECT_EQ(ErrorOf([&] { host.FileSystem().FileExists("C:\\..\\etc"); }).Number(), errors::kPathNotFound);
+    using namespace std::string_literals;
+    EXPECT_EQ(ErrorOf([&] { host.FileSystem().WriteText("C:\\Work\\a\tb.txt", "x"); }).Number(),
+              errors::kPathNotFound);
+    EXPECT_EQ(ErrorOf([&] { host.FileSystem().WriteText("C:\\Work\\Gearbox.iam\0.txt"s, "x"); }).Number(),
+              errors::kPathNotFound)
+        << "a NUL must not cut the name short and overwrite Gearbox.iam";
 }
 
 TEST_F(DriveTest, WritesAreWholeAndRespectTheReadOnlyBit) {
