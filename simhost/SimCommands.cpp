@@ -95,16 +95,17 @@ std::shared_ptr<host::CommandBars> CommandState::CommandBars() {
     return shared_from_this();
 }
 
+// An add-in activated again places its buttons again, after the ones it left behind; the
+// user clicks the newest, the one the running add-in listens to.
 void CommandState::ClickButton(const std::string& internalName) {
+    std::shared_ptr<host::ButtonDefinition> newest;
     for (const auto& bar : bars_)
-        for (std::int32_t i = 1; i <= bar->Count(); ++i) {
-            auto definition = bar->Item(i)->ControlDefinition();
-            if (definition->InternalName() == internalName) {
-                definition->OnExecute().Raise();
-                return;
-            }
-        }
-    throw Error(errors::kInvalidArg, "No button \"" + internalName + "\" on any command bar");
+        for (std::int32_t i = 1; i <= bar->Count(); ++i)
+            if (auto definition = bar->Item(i)->ControlDefinition();
+                definition->InternalName() == internalName)
+                newest = definition;
+    if (!newest) throw Error(errors::kInvalidArg, "No button \"" + internalName + "\" on any command bar");
+    newest->OnExecute().Raise();
 }
 
 void CommandState::Defined(const std::shared_ptr<host::ButtonDefinition>& definition) {
