@@ -61,8 +61,16 @@ std::string IniFileStore::GetSetting(const std::string& app, const std::string& 
 
 void IniFileStore::SaveSetting(const std::string& app, const std::string& section, const std::string& key,
                                const std::string& value) {
-    if (value.find('\n') != std::string::npos)
-        throw support::Error(support::errors::kInvalidCall, "A setting cannot hold a line break: " + key);
+    // The file's own syntax: a key may not hold "=", a section name may not hold "]", and
+    // nothing may break a line.
+    auto has = [](const std::string& text, const char* chars) {
+        return text.find_first_of(chars) != std::string::npos;
+    };
+    if (has(value, "\r\n") || has(key, "=\r\n") || key.empty() || has(section, "]\r\n") || has(app, "]\r\n"))
+        throw support::Error(support::errors::kInvalidCall, "A setting cannot be stored under " + section +
+                                                                " " + key +
+                                                                ": the name or value has a "
+                                                                "character the settings file cannot hold");
     sections_[HeaderOf(app, section)][key] = value;
     Write();
 }

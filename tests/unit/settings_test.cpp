@@ -40,6 +40,8 @@ TEST_F(SettingsTest, RefusesLineBreaksAndKeepsTheFileWhole) {
     settings::IniFileStore store(file);
     store.SaveSetting("Tarnwell", "GetColors", "ColorsTemplate", "C:\\T.ipt");
     EXPECT_THROW(store.SaveSetting("Tarnwell", "GetColors", "ColorsTemplate", "a\nb"), std::exception);
+    EXPECT_THROW(store.SaveSetting("Tarnwell", "GetColors", "K=ey", "v"), std::exception);
+    EXPECT_THROW(store.SaveSetting("Tarnwell", "Get]Colors", "Key", "v"), std::exception);
     EXPECT_EQ(settings::IniFileStore(file).GetSetting("Tarnwell", "GetColors", "ColorsTemplate"),
               "C:\\T.ipt");
 }
