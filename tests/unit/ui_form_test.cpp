@@ -109,15 +109,6 @@ TEST(FormTest, HandlerErrorsGoToThePlatformAndUnloadRestoresTheDesign) {
     EXPECT_THROW(f["noSuchControl"], support::Error);
 }
 
-TEST(FormTest, ModalShowReturnsWhenTheFormCloses) {
-    RecordingPlatform p;
-    SampleForm f(p);
-    f.Show(true);
-    EXPECT_FALSE(f.Loaded());
-    EXPECT_EQ(p.log, (std::vector<std::string>{"loaded frmSample", "modal-shown frmSample", "modal frmSample",
-                                               "unloaded frmSample"}));
-}
-
 TEST(FormTest, DisabledControlsCannotBeClicked) {
     RecordingPlatform p;
     SampleForm f(p);
