@@ -5,20 +5,10 @@
 
 #include "support/Error.h"
 #include "support/Text.h"
+#include "tests/unit/error_number.h"
 
 namespace support {
 namespace {
-
-// Runs f and returns the number of the support::Error it throws, 0 if none.
-template <class F>
-std::int32_t ErrorNumber(F f) {
-    try {
-        f();
-    } catch (const Error& e) {
-        return e.Number();
-    }
-    return 0;
-}
 
 TEST(Substrings, ClampAtTheEndsAndRefuseNegativeArguments) {
     EXPECT_EQ(Left("abc", 0), "");

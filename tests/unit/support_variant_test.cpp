@@ -6,19 +6,10 @@
 #include "support/Error.h"
 #include "support/Text.h"
 #include "support/Variant.h"
+#include "tests/unit/error_number.h"
 
 namespace support {
 namespace {
-
-template <class F>
-std::int32_t ErrorNumber(F f) {
-    try {
-        f();
-    } catch (const Error& e) {
-        return e.Number();
-    }
-    return 0;
-}
 
 struct Thing : Object {};
 
