@@ -162,11 +162,7 @@ std::vector<std::string> clsAppCmd::HeldReferences() const {
 }
 
 void clsAppCmd::Guarded(void (clsAppCmd::*handler)()) {
-    try {
-        (this->*handler)();
-    } catch (const support::Error& e) {
-        state_.platform.ReportError(e);
-    }
+    ui::ReportingErrors(state_.platform, [&] { (this->*handler)(); });
 }
 
 void clsAppCmd::oButtonHandler1_OnClick() {

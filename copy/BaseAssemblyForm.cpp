@@ -25,10 +25,14 @@ struct PickingScope {
 
 BaseAssemblyForm::BaseAssemblyForm(addin::AddinState& state, std::string name, std::string caption)
     : ui::Form(state.platform, std::move(name), std::move(caption)), state_(state), select_(state) {
-    On("cmdSelect", EventKind::Click, [this](int) { SelectAssembly(); });
-    On("chkTop", EventKind::Click, [this](int) { chkTop_Click(); });
-    On("cmdBrowse", EventKind::Click, [this](int) { cmdBrowse_Click(); });
-    On("cmdDone", EventKind::Click, [this](int) { cmdDone_Click(); });
+    TW_ON(cmdSelect, Click);
+    TW_ON(chkTop, Click);
+    TW_ON(cmdBrowse, Click);
+    TW_ON(cmdDone, Click);
+}
+
+void BaseAssemblyForm::cmdSelect_Click() {
+    SelectAssembly();
 }
 
 void BaseAssemblyForm::AddBaseAssemblyControls() {

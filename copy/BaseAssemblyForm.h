@@ -42,6 +42,7 @@ protected:
     addin::AddinState& state_;
 
 private:
+    void cmdSelect_Click();
     void chkTop_Click();
     void cmdBrowse_Click();
     void cmdDone_Click();

@@ -19,7 +19,7 @@ constexpr const char* kCR = "\r";
 
 frmCloneNames::frmCloneNames(addin::AddinState& state)
     : BaseAssemblyForm(state, "frmCloneNames", "Clone Assemblies to New Names") {
-    On("cmdClone", EventKind::Click, [this](int) { cmdClone_Click(); });
+    TW_ON(cmdClone, Click);
     // "Sequential" and its format list are shown but take no part in naming.
 }
 

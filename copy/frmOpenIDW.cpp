@@ -18,11 +18,19 @@ constexpr const char* kDrawingFilter = "Inventor Drawing Files (*.idw)|*.idw";
 
 frmOpenIDW::frmOpenIDW(addin::AddinState& state)
     : ui::Form(state.platform, "frmOpenIDW", "Link Matching IDW"), state_(state) {
-    On("cmdBrowse", EventKind::Click, [this](int) { cmdBrowse_Click(); });
-    On("cmdOpenIDW", EventKind::Click, [this](int) { cmdOpenIDW_Click(); });
-    On("cmdCancel", EventKind::Click, [this](int) { cmdCancel_Click(); });
-    On("txtDrawingFile", EventKind::Change, [this](int) { UpdateOpenButton(); });
-    On("txtDrawingPath", EventKind::Change, [this](int) { UpdateOpenButton(); });
+    TW_ON(cmdBrowse, Click);
+    TW_ON(cmdOpenIDW, Click);
+    TW_ON(cmdCancel, Click);
+    TW_ON(txtDrawingFile, Change);
+    TW_ON(txtDrawingPath, Change);
+}
+
+void frmOpenIDW::txtDrawingFile_Change() {
+    UpdateOpenButton();
+}
+
+void frmOpenIDW::txtDrawingPath_Change() {
+    UpdateOpenButton();
 }
 
 void frmOpenIDW::Build() {

@@ -26,6 +26,8 @@ private:
     void cmdOpenIDW_Click();
     void cmdCancel_Click();
     // "Open IDW" is enabled only while the shown drawing exists on disk.
+    void txtDrawingFile_Change();
+    void txtDrawingPath_Change();
     void UpdateOpenButton();
     std::string DrawingFullFileName();
 

@@ -18,7 +18,7 @@ constexpr const char* kSection = "PackNLink";
 // The stored title keeps its misspelling; activation shows "Pack-N-Link " instead.
 frmPacknLink::frmPacknLink(addin::AddinState& state)
     : BaseAssemblyForm(state, "frmPacknLink", "Pack And Link (to new locaton)") {
-    On("cmdClone", EventKind::Click, [this](int) { cmdClone_Click(); });
+    TW_ON(cmdClone, Click);
 }
 
 void frmPacknLink::Build() {

@@ -20,10 +20,10 @@ constexpr const char* kSection = "SaveAs";
 
 frmSaveAsReplace::frmSaveAsReplace(addin::AddinState& state)
     : ui::Form(state.platform, "frmSaveAsReplace", "Save Copy and Replace"), state_(state), select_(state) {
-    On("cmdSelect", EventKind::Click, [this](int) { cmdSelect_Click(); });
-    On("cmdBrowse", EventKind::Click, [this](int) { cmdBrowse_Click(); });
-    On("MakeIndependent", EventKind::Click, [this](int) { MakeIndependent_Click(); });
-    On("CommandButton1", EventKind::Click, [this](int) { CommandButton1_Click(); });
+    TW_ON(cmdSelect, Click);
+    TW_ON(cmdBrowse, Click);
+    TW_ON(MakeIndependent, Click);
+    TW_ON(CommandButton1, Click);
 }
 
 void frmSaveAsReplace::Build() {

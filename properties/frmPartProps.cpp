@@ -27,13 +27,15 @@ constexpr int kLastEMatrixRow = 14;
 
 frmPartProps::frmPartProps(addin::AddinState& state)
     : ui::Form(state.platform, "frmPartProps", "Edit Part Properties"), state_(state) {
-    On("ListBox1", ui::EventKind::DblClick, [this](int) { ListBox1_DblClick(); });
-    On("cmdOpenIDW", ui::EventKind::Click, [this](int) { cmdOpenIDW_Click(); });
-    On("cmdCancel", ui::EventKind::Click, [this](int) { cmdCancel_Click(); });
-    OnMenu("mnuExplore", [this](int) { mnuExplore_Click(); });
-    On("ListBox1", ui::EventKind::MouseUp, [this](int button) {
-        if (button == ui::kRightButton) platform().PopupMenu(*this, "mnuPopup");
-    });
+    TW_ON(ListBox1, DblClick);
+    TW_ON(ListBox1, MouseUp);
+    TW_ON(cmdOpenIDW, Click);
+    TW_ON(cmdCancel, Click);
+    TW_ON_MENU(mnuExplore);
+}
+
+void frmPartProps::ListBox1_MouseUp(int button) {
+    if (button == ui::kRightButton) platform().PopupMenu(*this, "mnuPopup");
 }
 
 void frmPartProps::Build() {

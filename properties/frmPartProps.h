@@ -28,6 +28,7 @@ protected:
 private:
     void Refresh();
     void ListBox1_DblClick();
+    void ListBox1_MouseUp(int button);
     void SaveCopy();
     void OpenNestedDialog();
     void cmdOpenIDW_Click();

@@ -104,6 +104,7 @@ void Form::Load() {
     caption_ = designCaption_;
     focus_.clear();
     Build();
+    CheckBindings();
     loaded_ = true;
     platform_.FormLoaded(*this);
     Form_Load();
@@ -182,16 +183,27 @@ MenuItem& Form::AddMenu(const std::string& name, const std::string& caption, con
     return menus_.back();
 }
 
-void Form::On(const std::string& control, EventKind kind, Handler handler) {
-    handlers_[HandlerKey(control, kind)] = std::move(handler);
+void Form::Register(const std::string& target, const char* event, bool menu, Handler handler) {
+    std::string key = target + "_" + event;
+    if (handlers_.count(key))
+        throw support::Error(support::errors::kInvalidCall, "Form " + name_ + " binds " + key + " twice");
+    handlers_[key] = std::move(handler);
+    bindings_.push_back({target, menu});
 }
 
-void Form::OnMenu(const std::string& menu, Handler handler) {
-    handlers_[MenuKey(menu)] = std::move(handler);
-}
-
-bool Form::HasHandler(const std::string& control, EventKind kind) const {
-    return handlers_.count(HandlerKey(control, kind)) != 0;
+void Form::CheckBindings() const {
+    for (const auto& b : bindings_) {
+        bool found = false;
+        if (b.menu) {
+            for (const auto& m : menus_) found = found || m.Name == b.target;
+        } else {
+            for (const auto& c : controls_) found = found || c->Name() == b.target;
+        }
+        if (!found)
+            throw support::Error(support::errors::kInvalidCall, "Form " + name_ + " binds a handler to " +
+                                                                    (b.menu ? "menu " : "control ") +
+                                                                    b.target + ", which it does not have");
+    }
 }
 
 void Form::Dispatch(const std::string& key, int index) {
@@ -204,7 +216,7 @@ void Form::Raise(const std::string& control, EventKind kind, int index) {
     if (!c.Enabled || !c.Visible)
         throw support::Error(support::errors::kInvalidCall,
                              "Control " + name_ + "." + control + " is not enabled or not visible");
-    try {
+    ReportingErrors(platform_, [&] {
         if (kind == EventKind::Click &&
             (c.Kind() == ControlKind::CheckBox || c.Kind() == ControlKind::OptionButton)) {
             // A click on a check box toggles it, on an option button selects it; both raise Click.
@@ -215,20 +227,14 @@ void Form::Raise(const std::string& control, EventKind kind, int index) {
         }
         focus_ = control;
         Dispatch(HandlerKey(control, kind), index);
-    } catch (const support::Error& e) {
-        platform_.ReportError(e);
-    }
+    });
 }
 
 void Form::ClickMenu(const std::string& menu, int index) {
     auto& m = Menu(menu, index);
     if (!m.Enabled)
         throw support::Error(support::errors::kInvalidCall, "Menu " + name_ + "." + menu + " is not enabled");
-    try {
-        Dispatch(MenuKey(menu), index);
-    } catch (const support::Error& e) {
-        platform_.ReportError(e);
-    }
+    ReportingErrors(platform_, [&] { Dispatch(MenuKey(menu), index); });
 }
 
 }  // namespace ui

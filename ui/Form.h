@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "ui/Platform.h"
@@ -80,8 +81,9 @@ struct MenuItem {
 };
 
 // A dialog. A subclass declares its controls and menus in Build(), which runs on each
-// load (an unloaded form comes back as designed), and binds handlers once in its
-// constructor. Handlers are named after control and event (cmdClone_Click).
+// load (an unloaded form comes back as designed), and binds its handlers once, all in
+// its constructor, with TW_ON and TW_ON_MENU: a handler is always the method named after
+// control and event (cmdClone_Click), so that a search for the name finds the code.
 class Form {
 public:
     Form(Platform& platform, std::string name, std::string caption);
@@ -119,7 +121,6 @@ public:
     // caught go to the platform's error report.
     void Raise(const std::string& control, EventKind kind, int index = -1);
     void ClickMenu(const std::string& menu, int index = -1);
-    bool HasHandler(const std::string& control, EventKind kind) const;
 
     const std::string& FocusedControl() const { return focus_; }
     void SetFocusTo(const std::string& control) { focus_ = control; }
@@ -137,12 +138,39 @@ protected:
     MenuItem& AddMenu(const std::string& name, const std::string& caption, const std::string& parent = "",
                       int index = -1);
 
-    using Handler = std::function<void(int index)>;
-    void On(const std::string& control, EventKind kind, Handler handler);
-    void OnMenu(const std::string& menu, Handler handler);
+    // Use TW_ON / TW_ON_MENU rather than these: the macros tie the handler's name to the
+    // control's. A handler takes nothing, or the index (MouseUp: the mouse button).
+    template <class F, class... Index>
+    void Bind(const char* control, EventKind kind, void (F::*handler)(Index...)) {
+        Register(control, EventName(kind), false, MakeHandler(handler));
+    }
+    template <class F, class... Index>
+    void BindMenu(const char* menu, void (F::*handler)(Index...)) {
+        Register(menu, "Click", true, MakeHandler(handler));
+    }
 
 private:
     friend class Control;
+    using Handler = std::function<void(int index)>;
+    struct Binding {
+        std::string target;  // control or menu name
+        bool menu;
+    };
+
+    template <class F, class... Index>
+    Handler MakeHandler(void (F::*handler)(Index...)) {
+        static_assert(sizeof...(Index) <= 1, "a handler takes nothing or the index");
+        auto* self = static_cast<F*>(this);
+        return [self, handler](int index) {
+            if constexpr (sizeof...(Index) == 0)
+                (self->*handler)();
+            else
+                (self->*handler)(index);
+        };
+    }
+    void Register(const std::string& target, const char* event, bool menu, Handler handler);
+    // Every binding must name a control or menu item the form declares.
+    void CheckBindings() const;
     void Dispatch(const std::string& key, int index);
     Platform& platform_;
     std::string name_;
@@ -155,6 +183,13 @@ private:
     std::vector<std::unique_ptr<Control>> controls_;
     std::vector<MenuItem> menus_;
     std::map<std::string, Handler> handlers_;
+    std::vector<Binding> bindings_;
 };
 
 }  // namespace ui
+
+// Binds the form's method control_Event to that control's event: a missing method fails
+// the compile, a control the form does not declare fails the form's load.
+#define TW_ON(control, event) \
+    Bind(#control, ::ui::EventKind::event, &std::remove_pointer_t<decltype(this)>::control##_##event)
+#define TW_ON_MENU(menu) BindMenu(#menu, &std::remove_pointer_t<decltype(this)>::menu##_Click)

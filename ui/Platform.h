@@ -88,4 +88,15 @@ public:
     virtual void LabelChanged(Form& form, const std::string& control, const std::string& caption) = 0;
 };
 
+// Runs what an event set off (a control, a menu item, a host button or pick); a host
+// error that escapes it goes to the platform's error report and the event loop goes on.
+template <class Body>
+void ReportingErrors(Platform& platform, Body&& body) {
+    try {
+        body();
+    } catch (const support::Error& error) {
+        platform.ReportError(error);
+    }
+}
+
 }  // namespace ui

@@ -61,17 +61,6 @@ ui::Control& Reach(ui::Form& form, const std::string& name) {
     return *control;
 }
 
-// Runs what an event of the user set off; an error no handler caught is reported, as
-// the form does for the events it raises itself.
-template <class F>
-void Guarded(Session& s, F&& action) {
-    try {
-        action();
-    } catch (const support::Error& e) {
-        s.Platform().ReportError(e);
-    }
-}
-
 void RequireKind(const ui::Form& form, const ui::Control& control, std::initializer_list<ControlKind> kinds,
                  const char* what) {
     if (std::find(kinds.begin(), kinds.end(), control.Kind()) == kinds.end())
@@ -167,7 +156,7 @@ void Type(Session& s, const Args& args) {
         throw support::Error(support::errors::kInvalidCall,
                              "Control " + form.Name() + "." + target.member + " is locked");
     control.SetFocus();
-    Guarded(s, [&] { control.SetText(args.Text(1)); });
+    ui::ReportingErrors(s.Platform(), [&] { control.SetText(args.Text(1)); });
 }
 
 void SetCheck(Session& s, const Args& args, bool checked) {
@@ -179,7 +168,9 @@ void SetCheck(Session& s, const Args& args, bool checked) {
     if (control.Kind() == ControlKind::OptionButton && !checked)
         throw ScriptError("an option button is cleared by checking another one of its group");
     control.SetFocus();
-    Guarded(s, [&] { control.SetValue(checked ? (control.Kind() == ControlKind::CheckBox ? 1 : -1) : 0); });
+    ui::ReportingErrors(s.Platform(), [&] {
+        control.SetValue(checked ? (control.Kind() == ControlKind::CheckBox ? 1 : -1) : 0);
+    });
 }
 
 void Leave(Session& s, const Args& args) {
@@ -194,7 +185,7 @@ void Leave(Session& s, const Args& args) {
 void Close(Session& s, const Args& args) {
     auto& form = s.LoadedForm(args.Text(0));
     bool closed = true;
-    Guarded(s, [&] { closed = form.Unload(); });
+    ui::ReportingErrors(s.Platform(), [&] { closed = form.Unload(); });
     if (!closed) s.Transcript().Write("form " + form.Name() + " stays loaded: QueryUnload cancelled");
 }
 

@@ -30,8 +30,12 @@ const char* const frmDeleteInvisible::kWarning =
 
 frmDeleteInvisible::frmDeleteInvisible(addin::AddinState& state)
     : ui::Form(state.platform, "frmDeleteInvisible", "Delelet Invisible Components"), state_(state) {
-    On("cmdDelete", ui::EventKind::Click, [this](int) { cmdDelete_Click(); });
-    On("cmdCancel", ui::EventKind::Click, [this](int) { Unload(); });
+    TW_ON(cmdDelete, Click);
+    TW_ON(cmdCancel, Click);
+}
+
+void frmDeleteInvisible::cmdCancel_Click() {
+    Unload();
 }
 
 void frmDeleteInvisible::Build() {

@@ -32,6 +32,7 @@ protected:
 
 private:
     void cmdDelete_Click();
+    void cmdCancel_Click();
 
     addin::AddinState& state_;
     std::intptr_t previousOwner_ = 0;

@@ -15,21 +15,32 @@ namespace dialogs {
 
 frmPreview::frmPreview(addin::AddinState& state)
     : ui::Form(state.platform, "frmPreview", "Edit Part and Assembly Properties"), state_(state) {
-    On("ListBox1", ui::EventKind::DblClick, [this](int) { ListBox1_DblClick(); });
-    On("ListBox1", ui::EventKind::MouseUp, [this](int button) {
-        if (button == ui::kRightButton) platform().PopupMenu(*this, "mnuPopUp");
-    });
-    On("cmdSelect", ui::EventKind::Click, [this](int) { TogglePicking(); });
-    On("cmdCancel", ui::EventKind::Click, [this](int) {
-        Unload();
-        BringHostToFront();
-    });
-    OnMenu("mnoOrient", [this](int index) {
-        for (auto* item : MenuArray("mnoOrient")) item->Checked = item->Index == index;
-    });
-    OnMenu("mnuAutoUpdate", [this](int) { update_check::CheckForUpdate(state_); });
-    OnMenu("mnuAbout", [this](int) { update_check::ShowAbout(state_); });
-    BindOperations();
+    TW_ON(ListBox1, DblClick);
+    TW_ON(ListBox1, MouseUp);
+    TW_ON(cmdSelect, Click);
+    TW_ON(cmdTopLevel, Click);
+    TW_ON(cmdVisible, Click);
+    TW_ON(cmdDelete, Click);
+    TW_ON(cmdDeleteInvisible, Click);
+    TW_ON(cmdMakeLite, Click);
+    TW_ON(cmdClone, Click);
+    TW_ON(cmdPackNLink, Click);
+    TW_ON(cmdOpenIDW, Click);
+    TW_ON(cmdTopIDW, Click);
+    TW_ON(cmdNewThumbnail, Click);
+    TW_ON(cmdMultThumbnail, Click);
+    TW_ON(cmdThumbnailTop, Click);
+    TW_ON(cmdChgBrowser, Click);
+    TW_ON(cmdCancel, Click);
+    TW_ON_MENU(mnoOrient);
+    TW_ON_MENU(mnuLock);
+    TW_ON_MENU(mnuUnlock);
+    TW_ON_MENU(mnuExplorer);
+    TW_ON_MENU(mnuiPartToNormal);
+    TW_ON_MENU(mnuSaveAsReplace);
+    TW_ON_MENU(mnuAutoUpdate);
+    TW_ON_MENU(mnuAbout);
+    // "Purge Styles" has no handler yet: the style purge is a tool still to come.
 }
 
 frmPreview::~frmPreview() {
@@ -89,6 +100,32 @@ void frmPreview::BuildMenus() {
     AddMenu("mnuHelp", "Help");
     AddMenu("mnuAutoUpdate", "AutoUpdate", "mnuHelp");
     AddMenu("mnuAbout", "About", "mnuHelp");
+}
+
+void frmPreview::ListBox1_MouseUp(int button) {
+    if (button == ui::kRightButton) platform().PopupMenu(*this, "mnuPopUp");
+}
+
+// "Select" is the same switch as the dialog's activation: it turns picking on or off.
+void frmPreview::cmdSelect_Click() {
+    TogglePicking();
+}
+
+void frmPreview::cmdCancel_Click() {
+    Unload();
+    BringHostToFront();
+}
+
+void frmPreview::mnoOrient_Click(int index) {
+    for (auto* item : MenuArray("mnoOrient")) item->Checked = item->Index == index;
+}
+
+void frmPreview::mnuAutoUpdate_Click() {
+    update_check::CheckForUpdate(state_);
+}
+
+void frmPreview::mnuAbout_Click() {
+    update_check::ShowAbout(state_);
 }
 
 void frmPreview::Form_Load() {
@@ -166,15 +203,13 @@ int frmPreview::CheckedOrientation() {
 
 // Raised by the host, not through a control: an error goes to the report here.
 void frmPreview::OnPicked() {
-    try {
+    ui::ReportingErrors(state_.platform, [&] {
         auto occurrence = std::dynamic_pointer_cast<host::ComponentOccurrence>(pick_->oObjectSelected);
         if (!occurrence) return;
         state_.selectedOccurrence = occurrence;
         Refill();
         (*this)["cmdVisible"].SetCaption(occurrence->Visible() ? "Hide" : "Visible");
-    } catch (const support::Error& e) {
-        state_.platform.ReportError(e);
-    }
+    });
 }
 
 void frmPreview::BringHostToFront() {

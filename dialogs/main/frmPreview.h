@@ -47,10 +47,15 @@ protected:
 private:
     void BuildNameInBrowserFrame();
     void BuildMenus();
-    void BindOperations();
     void ReleasePick();
     void OnPicked();
     void BringHostToFront();
+    void ListBox1_MouseUp(int button);
+    void cmdSelect_Click();
+    void cmdCancel_Click();
+    void mnoOrient_Click(int index);
+    void mnuAutoUpdate_Click();
+    void mnuAbout_Click();
 
     // frmPreviewRows.cpp
     void ListBox1_DblClick();
@@ -61,7 +66,9 @@ private:
     void cmdTopLevel_Click();
     void cmdVisible_Click();
     void cmdDelete_Click();
-    void mnuLock_Click(std::int32_t disabledCommandTypes);
+    void mnuLock_Click();
+    void mnuUnlock_Click();
+    void SetLock(std::int32_t disabledCommandTypes);
     void cmdDeleteInvisible_Click();
     void cmdNewThumbnail_Click();
     void cmdMultThumbnail_Click();
@@ -70,6 +77,11 @@ private:
     void cmdChgBrowser_Click();
     void mnuExplorer_Click();
     void mnuiPartToNormal_Click();
+    void cmdClone_Click();
+    void cmdPackNLink_Click();
+    void mnuSaveAsReplace_Click();
+    void cmdOpenIDW_Click();
+    void cmdTopIDW_Click();
     template <class Dialog>
     void ShowToolDialog();
     void OpenDrawingOf(const std::shared_ptr<host::Document>& model);

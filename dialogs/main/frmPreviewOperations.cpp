@@ -26,30 +26,6 @@ constexpr const char* kNotSavedYet = "This document has not been saved yet, so i
 
 }  // namespace
 
-void frmPreview::BindOperations() {
-    On("cmdTopLevel", ui::EventKind::Click, [this](int) { cmdTopLevel_Click(); });
-    On("cmdVisible", ui::EventKind::Click, [this](int) { cmdVisible_Click(); });
-    On("cmdDelete", ui::EventKind::Click, [this](int) { cmdDelete_Click(); });
-    OnMenu("mnuLock", [this](int) { mnuLock_Click(host::kShapeEditCmdType); });
-    OnMenu("mnuUnlock", [this](int) { mnuLock_Click(0); });
-    On("cmdDeleteInvisible", ui::EventKind::Click, [this](int) { cmdDeleteInvisible_Click(); });
-    On("cmdNewThumbnail", ui::EventKind::Click, [this](int) { cmdNewThumbnail_Click(); });
-    On("cmdMultThumbnail", ui::EventKind::Click, [this](int) { cmdMultThumbnail_Click(); });
-    On("cmdThumbnailTop", ui::EventKind::Click, [this](int) { cmdThumbnailTop_Click(); });
-    On("cmdChgBrowser", ui::EventKind::Click, [this](int) { cmdChgBrowser_Click(); });
-    OnMenu("mnuExplorer", [this](int) { mnuExplorer_Click(); });
-    OnMenu("mnuiPartToNormal", [this](int) { mnuiPartToNormal_Click(); });
-    On("cmdClone", ui::EventKind::Click, [this](int) { ShowToolDialog<copy::frmCloneNames>(); });
-    On("cmdPackNLink", ui::EventKind::Click, [this](int) { ShowToolDialog<copy::frmPacknLink>(); });
-    OnMenu("mnuSaveAsReplace", [this](int) { ShowToolDialog<copy::frmSaveAsReplace>(); });
-    On("cmdOpenIDW", ui::EventKind::Click, [this](int) { OpenDrawingOf(ShownDocument()); });
-    On("cmdTopIDW", ui::EventKind::Click, [this](int) { OpenDrawingOf(state_.App().ActiveDocument()); });
-    On("cmdMakeLite", ui::EventKind::Click, [this](int) { cmdMakeLite_Click(); });
-    // The style purge is a tool of its own that is not part of this dialog yet; the
-    // button is there and does nothing.
-    On("cmdPurge", ui::EventKind::Click, [](int) {});
-}
-
 void frmPreview::cmdTopLevel_Click() {
     state_.selectedOccurrence = nullptr;
     Refill();
@@ -82,7 +58,15 @@ void frmPreview::cmdDelete_Click() {
 
 // Lock and Unlock act on the selected component without a check: with nothing
 // selected they fail as the host does on a missing object.
-void frmPreview::mnuLock_Click(std::int32_t disabledCommandTypes) {
+void frmPreview::mnuLock_Click() {
+    SetLock(host::kShapeEditCmdType);
+}
+
+void frmPreview::mnuUnlock_Click() {
+    SetLock(0);
+}
+
+void frmPreview::SetLock(std::int32_t disabledCommandTypes) {
     auto& occurrence = support::Required(state_.selectedOccurrence, "selected occurrence");
     occurrence->Definition()->Document()->SetDisabledCommandTypes(disabledCommandTypes);
     (*this)["picLocked"].Visible = disabledCommandTypes != 0;
@@ -173,6 +157,26 @@ template <class Dialog>
 void frmPreview::ShowToolDialog() {
     StopPicking();
     state_.Dialog<Dialog>().Show(false);
+}
+
+void frmPreview::cmdClone_Click() {
+    ShowToolDialog<copy::frmCloneNames>();
+}
+
+void frmPreview::cmdPackNLink_Click() {
+    ShowToolDialog<copy::frmPacknLink>();
+}
+
+void frmPreview::mnuSaveAsReplace_Click() {
+    ShowToolDialog<copy::frmSaveAsReplace>();
+}
+
+void frmPreview::cmdOpenIDW_Click() {
+    OpenDrawingOf(ShownDocument());
+}
+
+void frmPreview::cmdTopIDW_Click() {
+    OpenDrawingOf(state_.App().ActiveDocument());
 }
 
 void frmPreview::OpenDrawingOf(const std::shared_ptr<host::Document>& model) {

@@ -15,19 +15,27 @@ using ui::headless::ScriptError;
 class Sample : public ui::Form {
 public:
     explicit Sample(ui::Platform& platform) : Form(platform, "frmSample", "Sample") {
-        for (auto [control, kind] : {std::pair{"cboColor", EventKind::Click},
-                                     {"cboColor", EventKind::Change},
-                                     {"lstRows", EventKind::Click},
-                                     {"lstRows", EventKind::DblClick},
-                                     {"txtName", EventKind::Change},
-                                     {"txtName", EventKind::LostFocus},
-                                     {"chkTop", EventKind::Click}})
-            On(control, kind, [this, control, kind](int) {
-                events.push_back(control + std::string(".") + ui::EventName(kind));
-                if ((*this)["txtName"].Text() == "bad")
-                    throw support::Error(support::errors::kTypeMismatch, "Type mismatch");
-            });
-        OnMenu("mnuHidden", [this](int) { events.push_back("mnuHidden"); });
+        TW_ON(cboColor, Click);
+        TW_ON(cboColor, Change);
+        TW_ON(lstRows, Click);
+        TW_ON(lstRows, DblClick);
+        TW_ON(txtName, Change);
+        TW_ON(txtName, LostFocus);
+        TW_ON(chkTop, Click);
+        TW_ON_MENU(mnuHidden);
+    }
+    void cboColor_Click() { Record("cboColor.Click"); }
+    void cboColor_Change() { Record("cboColor.Change"); }
+    void lstRows_Click() { Record("lstRows.Click"); }
+    void lstRows_DblClick() { Record("lstRows.DblClick"); }
+    void txtName_Change() { Record("txtName.Change"); }
+    void txtName_LostFocus() { Record("txtName.LostFocus"); }
+    void chkTop_Click() { Record("chkTop.Click"); }
+    void mnuHidden_Click() { events.push_back("mnuHidden"); }
+    void Record(const std::string& event) {
+        events.push_back(event);
+        if ((*this)["txtName"].Text() == "bad")
+            throw support::Error(support::errors::kTypeMismatch, "Type mismatch");
     }
     std::vector<std::string> events;
     bool refuseClose = false;

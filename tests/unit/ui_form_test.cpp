@@ -46,14 +46,19 @@ public:
 class SampleForm : public ui::Form {
 public:
     explicit SampleForm(ui::Platform& p) : ui::Form(p, "frmSample", "Sample") {
-        On("chkTop", ui::EventKind::Click, [this](int) { clicks.push_back("chkTop"); });
-        On("optA", ui::EventKind::Click, [this](int) { clicks.push_back("optA"); });
-        On("cmdFail", ui::EventKind::Click, [](int) { throw support::Error(5, "boom"); });
-        On("txtName", ui::EventKind::Change, [this](int) { clicks.push_back("change"); });
+        TW_ON(chkTop, Click);
+        TW_ON(optA, Click);
+        TW_ON(cmdFail, Click);
+        TW_ON(txtName, Change);
     }
     std::vector<std::string> clicks;
     int loads = 0;
     bool refuseClose = false;
+
+    void chkTop_Click() { clicks.push_back("chkTop"); }
+    void optA_Click() { clicks.push_back("optA"); }
+    void cmdFail_Click() { throw support::Error(5, "boom"); }
+    void txtName_Change() { clicks.push_back("change"); }
 
 protected:
     void Build() override {
@@ -116,6 +121,42 @@ TEST(FormTest, DisabledControlsCannotBeClicked) {
     f["chkTop"].Enabled = false;
     EXPECT_THROW(f.Raise("chkTop", ui::EventKind::Click), support::Error);
     EXPECT_TRUE(f.clicks.empty());
+}
+
+// A binding to a control the form does not declare is caught when the form loads, with
+// the form and the name, instead of being a button that silently does nothing.
+class MisboundForm : public ui::Form {
+public:
+    explicit MisboundForm(ui::Platform& p) : ui::Form(p, "frmMisbound", "Misbound") {
+        TW_ON(cmdGo, Click);
+        TW_ON_MENU(mnuGo);
+    }
+    bool declareButton = true;
+    void cmdGo_Click() {}
+    void mnuGo_Click() {}
+
+protected:
+    void Build() override {
+        if (declareButton) Add("cmdGo", ui::ControlKind::Button, "Go");
+        AddMenu("mnuGo", "Go");
+    }
+};
+
+TEST(FormTest, ABindingToAMissingControlFailsTheLoad) {
+    RecordingPlatform p;
+    MisboundForm f(p);
+    f.declareButton = false;
+    try {
+        f.Load();
+        FAIL() << "the load went through";
+    } catch (const support::Error& e) {
+        EXPECT_NE(e.Description().find("frmMisbound"), std::string::npos) << e.Description();
+        EXPECT_NE(e.Description().find("cmdGo"), std::string::npos) << e.Description();
+    }
+    EXPECT_FALSE(f.Loaded());
+    f.declareButton = true;
+    f.Load();
+    EXPECT_TRUE(f.Loaded());
 }
 
 }  // namespace
