@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "host/Object.h"
 #include "support/Event.h"
 

@@ -18,12 +18,10 @@
 #include <sstream>
 #include <string>
 
-#include "addin/AddinState.h"
-#include "copy/frmPacknLink.h"
-#include "copy/modRecurseSaveNReplace.h"
+#include "copy/engine/PackingWalk.h"
+#include "copy/engine/RenamingWalk.h"
 #include "host/Application.h"
 #include "host/Document.h"
-#include "settings/Settings.h"
 #include "simhost/SimHost.h"
 #include "ui/headless/HeadlessPlatform.h"
 
@@ -121,21 +119,21 @@ void Report(const char* what, double seconds, double plain, const Folder& out) {
     std::printf("%-34s %9.3f s  %8.1f x plain   %5ju files\n", what, seconds, seconds / plain, out.files);
 }
 
-// One stand-in host and one add-in over the scratch tree.
-struct Bench {
-    explicit Bench(const fs::path& root)
-        : settings(root / "settings.ini"),
-          platform(transcript),
-          state({platform, settings, host.FileSystem()}) {
+// One stand-in host over the scratch tree, and the walks' surroundings as a dialog gives
+// them: each progress line is followed by a yield.
+struct Bench : copy::Progress {
+    explicit Bench(const fs::path& root) : platform(transcript) {
         host.MapDrive('C', root);
-        state.app = host.Application();
+        app = host.Application();
     }
+    void ShowStatus(const std::string&) override { platform.DoEvents(); }
+    copy::WalkContext Context() { return {*app, host.FileSystem(), platform, *this}; }
+
     std::ostringstream log;
     ui::headless::Transcript transcript{log};
     simhost::SimHost host;
-    settings::IniFileStore settings;
     ui::headless::HeadlessPlatform platform;
-    addin::AddinState state;
+    std::shared_ptr<host::Application> app;
 };
 
 void Run(const fs::path& root) {
@@ -152,14 +150,14 @@ void Run(const fs::path& root) {
         Bench b(root);
         double s = Seconds([&] {
             // What Execute Clone does for a standalone copy of the top assembly.
-            auto& app = b.state.App();
+            auto& app = *b.app;
             auto top = app.Documents()->Open("C:\\Src\\Top.iam", true);
             std::string target = "C:\\Clone";
             std::string newName = copy::FormCopyName(top->FullFileName(), "!New-", "-001", target);
             top->SaveAs(newName, true);
             app.SetSilentOperation(true);
             auto work = app.Documents()->Open(newName, false);
-            copy::RecurseOccurrences(b.state, *work, "!New-", "-001", target);
+            copy::RecurseOccurrences(b.Context(), *work, "!New-", "-001", target);
             app.SetSilentOperation(false);
             work->Save();
             work->Close();
@@ -168,13 +166,12 @@ void Run(const fs::path& root) {
     }
     for (bool fromDisk : {false, true}) {
         Bench b(root);
-        auto& dialog = b.state.Dialog<copy::frmPacknLink>();
-        dialog.Load();
-        dialog[fromDisk ? "optFromDisk" : "optFromMem"].SetValue(-1);
+        auto source = fromDisk ? copy::PackSource::Disk : copy::PackSource::Memory;
+        bool stop = false;
         std::string folder = fromDisk ? "PackDisk" : "PackMemory";
         double s = Seconds([&] {
-            auto top = b.state.App().Documents()->Open("C:\\Src\\Top.iam", true);
-            copy::PackDocument(b.state, *top, "C:\\" + folder);
+            auto top = b.app->Documents()->Open("C:\\Src\\Top.iam", true);
+            copy::PackDocument(b.Context(), *top, "C:\\" + folder, source, stop);
         });
         Report(fromDisk ? "pack disk to disk (PackDocument)" : "pack from memory (PackDocument)", s, plain,
                Measure(root / folder));

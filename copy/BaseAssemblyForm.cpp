@@ -55,7 +55,6 @@ void BaseAssemblyForm::AddCommandControls(const std::string& executeCaption) {
 }
 
 void BaseAssemblyForm::ShowStatus(const std::string& text) {
-    if (!Loaded()) Load();
     (*this)["Status"].SetCaption(text);
     state_.platform.DoEvents();
 }
@@ -87,7 +86,7 @@ void BaseAssemblyForm::StopPick() {
 
 void BaseAssemblyForm::ShowBaseAssembly(const std::string& fullFileName) {
     auto& box = (*this)["txtBaseAssembly"];
-    box.SetText(SplitPath(fullFileName).fileName);
+    box.SetText(paths::SplitPath(fullFileName).fileName);
     box.ToolTipText = fullFileName;
 }
 
@@ -125,7 +124,7 @@ void BaseAssemblyForm::chkTop_Click() {
 
 void BaseAssemblyForm::cmdBrowse_Click() {
     std::string folder =
-        BrowseForFolder(state_.App(), state_.platform, "Directory", (*this)["txtTargetDir"].Text());
+        paths::BrowseForFolder(state_.App(), state_.platform, "Directory", (*this)["txtTargetDir"].Text());
     if (!folder.empty()) (*this)["txtTargetDir"].SetText(folder);
 }
 

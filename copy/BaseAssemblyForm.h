@@ -1,8 +1,9 @@
 #pragma once
 #include <string>
 
-#include "addin/AddinState.h"
-#include "addin/clsSelect.h"
+#include "addin/shared/AddinState.h"
+#include "addin/shared/clsSelect.h"
+#include "copy/engine/WalkContext.h"
 #include "ui/Form.h"
 
 namespace copy {
@@ -10,11 +11,11 @@ namespace copy {
 // What the clone and Pack-N-Link dialogs share: the base assembly is either the top
 // document ("Top") or an assembly picked in the model ("Select Assembly"), the target
 // is a folder chosen with the folder picker, and a walk reports progress in Status.
-class BaseAssemblyForm : public ui::Form {
+class BaseAssemblyForm : public ui::Form, public Progress {
 public:
     // Writes a progress line into Status and yields, so the dialog repaints while a
-    // walk runs. The engine writes here too, loading the dialog if it is not loaded.
-    void ShowStatus(const std::string& text);
+    // walk runs: the dialog is the walk's progress sink.
+    void ShowStatus(const std::string& text) override;
 
 protected:
     BaseAssemblyForm(addin::AddinState& state, std::string name, std::string caption);
@@ -33,6 +34,8 @@ protected:
     // The first check of Execute: the walk needs a picked assembly or "Top" with an
     // active document. Shows the message and answers false when it has neither.
     bool CheckBaseAssembly();
+    // What the walks need, with this dialog as their progress sink.
+    WalkContext Context() { return {state_.App(), state_.fileSystem, state_.platform, *this}; }
 
     // Settings keep booleans as the platform writes them ("True"/"False"); older or
     // hand-written values ("1", "0") read as well, anything else as the default.

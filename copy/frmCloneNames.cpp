@@ -1,6 +1,6 @@
 #include "copy/frmCloneNames.h"
 
-#include "copy/modRecurseSaveNReplace.h"
+#include "copy/engine/RenamingWalk.h"
 #include "host/Application.h"
 #include "host/Component.h"
 #include "host/Document.h"
@@ -140,12 +140,13 @@ void frmCloneNames::cmdClone_Click() {
         work = app.Documents()->Open(newName, false);
     } else {
         auto picked = state_.selectedOccurrence;
-        SaveAndReplaceOccurrence(state_, *picked, prefix, suffix, targetDir);
+        SaveAndReplaceOccurrence(Context(), *picked, prefix, suffix, targetDir);
         work = picked->Definition()->Document();
     }
 
-    // A failure inside the walk ends the command here and leaves silent mode on.
-    RecurseOccurrences(state_, *work, prefix, suffix, targetDir);
+    // A failure inside the walk ends the command here, reported as the host raised it,
+    // and leaves silent mode on: nothing after the walk runs, the reset included.
+    RecurseOccurrences(Context(), *work, prefix, suffix, targetDir);
     app.SetSilentOperation(false);
 
     ShowStatus("Saving: " + newName);

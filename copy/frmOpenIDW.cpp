@@ -4,7 +4,7 @@
 #include "host/Application.h"
 #include "host/Document.h"
 #include "host/FileSystem.h"
-#include "properties/AttributeHelpers.h"
+#include "properties/table/AttributeHelpers.h"
 #include "support/Error.h"
 
 namespace copy {
@@ -49,7 +49,7 @@ void frmOpenIDW::Build() {
 
 void frmOpenIDW::Form_Load() {
     model_ = support::Required(state_.workingDocument, "working document");
-    auto model = SplitPath(model_->FullFileName());
+    auto model = paths::SplitPath(model_->FullFileName());
     (*this)["txtModelPath"].SetText(model.directory);
     (*this)["txtModelFile"].SetText(model.fileName);
 
@@ -60,8 +60,8 @@ void frmOpenIDW::Form_Load() {
     if (drawingFile.empty()) {
         // No link kept yet: the host's own guess counts when that file is really there.
         std::string candidate = state_.App().FileLocations()->FindDrawing(model_->FullFileName(), "iparts");
-        if (!candidate.empty() && FileExists(state_.fileSystem, candidate)) {
-            auto found = SplitPath(candidate);
+        if (!candidate.empty() && paths::FileFound(state_.fileSystem, candidate)) {
+            auto found = paths::SplitPath(candidate);
             drawingFile = found.fileName;
             drawingPath = found.directory;
         }
@@ -76,15 +76,15 @@ std::string frmOpenIDW::DrawingFullFileName() {
 }
 
 void frmOpenIDW::UpdateOpenButton() {
-    (*this)["cmdOpenIDW"].Enabled =
-        !(*this)["txtDrawingFile"].Text().empty() && FileExists(state_.fileSystem, DrawingFullFileName());
+    (*this)["cmdOpenIDW"].Enabled = !(*this)["txtDrawingFile"].Text().empty() &&
+                                    paths::FileFound(state_.fileSystem, DrawingFullFileName());
 }
 
 void frmOpenIDW::cmdBrowse_Click() {
-    std::string chosen = OpenFilePrompt(state_.platform, kDrawingFilter, (*this)["txtDrawingPath"].Text(),
-                                        (*this)["txtDrawingFile"].Text(), "Open Drawing File");
+    std::string chosen = paths::OpenFilePrompt(
+        state_.platform, kDrawingFilter, (*this)["txtDrawingPath"].Text(), (*this)["txtDrawingFile"].Text());
     if (chosen.empty()) return;
-    auto drawing = SplitPath(chosen);
+    auto drawing = paths::SplitPath(chosen);
     auto& app = state_.App();
     properties::SetAttribute(app, properties::kLinkAttributeSet, *model_, properties::kDrawingFileAttribute,
                              drawing.fileName);

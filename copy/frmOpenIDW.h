@@ -1,7 +1,7 @@
 #pragma once
 #include <memory>
 
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "ui/Form.h"
 
 namespace host {

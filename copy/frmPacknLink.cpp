@@ -1,6 +1,6 @@
 #include "copy/frmPacknLink.h"
 
-#include "copy/modRecurseSaveNReplace.h"
+#include "copy/engine/PackingWalk.h"
 #include "host/Application.h"
 #include "host/Component.h"
 #include "host/Document.h"
@@ -33,11 +33,6 @@ void frmPacknLink::Build() {
     AddCommandControls("Execute Pack");
 }
 
-bool frmPacknLink::DiskToDisk() {
-    if (!Loaded()) Load();
-    return (*this)["optFromDisk"].Value() != 0;
-}
-
 void frmPacknLink::Form_Activate() {
     (*this)["txtTargetDir"].SetText(state_.GetSetting(kSection, "TargetDir", "C:\\Temp"));
     // One of the two sources is always chosen: a stored "False" picks disk to disk.
@@ -57,11 +52,12 @@ void frmPacknLink::Form_Unload() {
 
 void frmPacknLink::cmdClone_Click() {
     if (!CheckBaseAssembly()) return;
-    state_.packStop = false;
-    std::string targetDir = (*this)["txtTargetDir"].Text();
+    packStop_ = false;
     auto document =
         TopChecked() ? state_.App().ActiveDocument() : state_.selectedOccurrence->Definition()->Document();
-    PackDocument(state_, *support::Required(document, "base assembly"), targetDir);
+    auto source = (*this)["optFromDisk"].Value() ? PackSource::Disk : PackSource::Memory;
+    PackDocument(Context(), *support::Required(document, "base assembly"), (*this)["txtTargetDir"].Text(),
+                 source, packStop_);
     (*this)["Status"].SetCaption("Finished!");
 }
 

@@ -9,8 +9,6 @@ namespace copy {
 class frmPacknLink : public BaseAssemblyForm {
 public:
     explicit frmPacknLink(addin::AddinState& state);
-    // The data source the packing walk reads: true for "From Disk to Disk".
-    bool DiskToDisk();
 
 protected:
     void Build() override;
@@ -19,6 +17,10 @@ protected:
 
 private:
     void cmdClone_Click();
+
+    // Set when the walk refused the target folder; each pack starts with it cleared, and
+    // the walk starts nothing while it is set.
+    bool packStop_ = false;
 };
 
 }  // namespace copy

@@ -63,8 +63,8 @@ void frmSaveAsReplace::cmdSelect_Click() {
 
 void frmSaveAsReplace::cmdBrowse_Click() {
     const std::string current = (*this)["tbxNewFileName"].Text();
-    std::string chosen = SaveFilePrompt(state_.platform, current, support::Right(current, 3),
-                                        state_.App().FileLocations()->Workspace());
+    std::string chosen = paths::SaveFilePrompt(state_.platform, current, support::Right(current, 3),
+                                               state_.App().FileLocations()->Workspace());
     if (!chosen.empty()) (*this)["tbxNewFileName"].SetText(chosen);
 }
 
@@ -75,7 +75,7 @@ void frmSaveAsReplace::MakeIndependent_Click() {
         state_.platform.MsgBox("Old and New filenames cannot be the same");
         return;
     }
-    if (FileExists(state_.fileSystem, newName)) {
+    if (paths::FileFound(state_.fileSystem, newName)) {
         state_.platform.MsgBox("New File Already exist");
         return;
     }

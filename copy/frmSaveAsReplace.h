@@ -1,8 +1,8 @@
 #pragma once
 #include <memory>
 
-#include "addin/AddinState.h"
-#include "addin/clsSelect.h"
+#include "addin/shared/AddinState.h"
+#include "addin/shared/clsSelect.h"
 #include "ui/Form.h"
 
 namespace host {

@@ -1,5 +1,5 @@
 #pragma once
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "ui/Form.h"
 
 namespace properties {

@@ -1,13 +1,13 @@
 #include "properties/frmPartProps.h"
 
+#include "addin/shared/DialogPosition.h"
 #include "copy/frmOpenIDW.h"
 #include "copy/paths/Paths.h"
 #include "host/Application.h"
 #include "host/Codes.h"
 #include "host/Document.h"
-#include "properties/DialogPosition.h"
-#include "properties/PropertyEdits.h"
-#include "properties/PropertyTable.h"
+#include "properties/table/PropertyEdits.h"
+#include "properties/table/PropertyTable.h"
 #include "support/Text.h"
 
 namespace properties {
@@ -70,13 +70,13 @@ void frmPartProps::Form_Load() {
         support::Required(target_, "edited document");
     }
     previousOwner_ = state_.platform.SetOwner(*this, app.MainFrameHWND());
-    RestorePosition(state_, *this, kSection);
+    addin::RestorePosition(state_, *this, kSection);
     placed_ = true;
     Refresh();
 }
 
 void frmPartProps::Form_QueryUnload(bool& /*cancel*/) {
-    if (placed_) SavePosition(state_, *this, kSection);
+    if (placed_) addin::SavePosition(state_, *this, kSection);
 }
 
 void frmPartProps::Refresh() {
@@ -131,7 +131,7 @@ void frmPartProps::OpenNestedDialog() {
 void frmPartProps::SaveCopy() {
     if (assemblyContext_ && state_.platform.MsgBox(kAssemblyContext, ui::vbYesNo) != ui::vbYes) return;
     std::string current = target_->FullFileName();
-    std::string newName = copy::SaveFilePrompt(state_.platform, current, support::Right(current, 3));
+    std::string newName = paths::SaveFilePrompt(state_.platform, current, support::Right(current, 3));
     if (newName.empty()) return;
     try {
         target_->SaveAs(newName, true);
@@ -156,7 +156,7 @@ void frmPartProps::cmdCancel_Click() {
 }
 
 void frmPartProps::mnuExplore_Click() {
-    auto path = copy::SplitPath(target_->FullFileName());
+    auto path = paths::SplitPath(target_->FullFileName());
     state_.platform.Shell("exploreR /e, " + path.directory, 1);
 }
 

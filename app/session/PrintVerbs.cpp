@@ -1,8 +1,8 @@
 // Verbs that write the state of the session into the transcript.
 #include <fstream>
 
-#include "addin/AddinState.h"
 #include "addin/clsAppCmd.h"
+#include "addin/shared/AddinState.h"
 #include "app/session/FormPrinter.h"
 #include "app/session/Session.h"
 #include "app/session/Verb.h"

@@ -1,6 +1,6 @@
 // Verbs that shape the session itself: queued answers, application paths, actions at a
 // yield, settings, and section headers.
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "app/session/Session.h"
 #include "app/session/Verb.h"
 #include "ui/headless/MsgBoxNames.h"

@@ -4,7 +4,7 @@
 #include "host/FileSystem.h"
 #include "support/Text.h"
 
-namespace copy {
+namespace paths {
 
 SplitPathResult SplitPath(const std::string& fullFileName) {
     auto last = fullFileName.rfind('\\');
@@ -12,7 +12,12 @@ SplitPathResult SplitPath(const std::string& fullFileName) {
     return {fullFileName.substr(0, last + 1), fullFileName.substr(last + 1)};
 }
 
-bool FileExists(host::FileSystem& fileSystem, const std::string& fullFileName) {
+std::string WithTrailingBackslash(std::string folder) {
+    if (support::Right(folder, 1) != "\\") folder += "\\";
+    return folder;
+}
+
+bool FileFound(host::FileSystem& fileSystem, const std::string& fullFileName) {
     try {
         return fileSystem.FileExists(fullFileName);
     } catch (const support::Error&) {
@@ -50,8 +55,7 @@ std::string SaveFilePrompt(ui::Platform& platform, const std::string& currentFul
 }
 
 std::string OpenFilePrompt(ui::Platform& platform, const std::string& filter, const std::string& startFolder,
-                           const std::string& fileName, const std::string& requestedTitle) {
-    (void)requestedTitle;
+                           const std::string& fileName) {
     ui::FileDialogRequest request;
     request.title = "Open Template Part File";
     request.filter = filter;
@@ -61,4 +65,4 @@ std::string OpenFilePrompt(ui::Platform& platform, const std::string& filter, co
     return platform.OpenFilePrompt(request);
 }
 
-}  // namespace copy
+}  // namespace paths

@@ -9,7 +9,7 @@ class FileSystem;
 }  // namespace host
 
 // The path splitter, the folder picker and the two file prompts that most dialogs share.
-namespace copy {
+namespace paths {
 
 struct SplitPathResult {
     std::string directory;  // everything up to and including the last "\"; "" when there is none
@@ -18,9 +18,13 @@ struct SplitPathResult {
 
 SplitPathResult SplitPath(const std::string& fullFileName);
 
-// Whether a file of that name exists. A name that is no full path (empty, no drive)
-// names no file here: whatever then tries to write it reports the failure.
-bool FileExists(host::FileSystem& fileSystem, const std::string& fullFileName);
+// The folder with a "\" at its end, added when it has none.
+std::string WithTrailingBackslash(std::string folder);
+
+// Whether a look-up of the name finds a file. A name the disk cannot resolve (empty, no
+// drive, a drive that is not there) finds none: the copy tools then go on to write it,
+// and the write reports the failure with the host's own message.
+bool FileFound(host::FileSystem& fileSystem, const std::string& fullFileName);
 
 // The shell's folder picker, owned by the host's active view; "" when cancelled.
 std::string BrowseForFolder(host::Application& hostApplication, ui::Platform& platform,
@@ -33,9 +37,10 @@ std::string BrowseForFolder(host::Application& hostApplication, ui::Platform& pl
 std::string SaveFilePrompt(ui::Platform& platform, const std::string& currentFullFileName,
                            const std::string& fileType, const std::string& fallbackFolder = "");
 
-// The host's open dialog. Whatever title the caller asks for, the dialog shows
-// "Open Template Part File": callers rely on that title, so it stays.
+// The host's open dialog. It is titled "Open Template Part File" whatever is being
+// opened (a drawing, a template): the add-in always showed that title, and users and
+// their scripts know the prompt by it, so no caller can change it.
 std::string OpenFilePrompt(ui::Platform& platform, const std::string& filter, const std::string& startFolder,
-                           const std::string& fileName, const std::string& requestedTitle = "");
+                           const std::string& fileName);
 
-}  // namespace copy
+}  // namespace paths

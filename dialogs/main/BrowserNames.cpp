@@ -1,11 +1,11 @@
 #include "dialogs/main/BrowserNames.h"
 
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "copy/paths/Paths.h"
 #include "host/Application.h"
 #include "host/Component.h"
 #include "host/Document.h"
-#include "properties/PropertyTable.h"
+#include "properties/table/PropertyTable.h"
 #include "support/Error.h"
 
 namespace dialogs::browser_names {
@@ -72,7 +72,7 @@ std::string BrowserRename::NameSource(host::Document& document) {
 
 void BrowserRename::SetTopLevelName(host::Document& top) {
     std::string name =
-        mode_ == Mode::Default ? copy::SplitPath(top.FullFileName()).fileName : NameSource(top);
+        mode_ == Mode::Default ? paths::SplitPath(top.FullFileName()).fileName : NameSource(top);
     top.SetDisplayName(name);
 }
 

@@ -1,6 +1,6 @@
 #include "dialogs/main/Thumbnails.h"
 
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "host/Application.h"
 #include "host/Document.h"
 

@@ -1,6 +1,6 @@
 #include "dialogs/main/UpdateCheck.h"
 
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 
 namespace dialogs::update_check {
 

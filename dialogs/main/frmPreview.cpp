@@ -1,14 +1,14 @@
 #include "dialogs/main/frmPreview.h"
 
-#include "addin/clsPickOccur.h"
+#include "addin/shared/DialogPosition.h"
+#include "addin/shared/clsPickOccur.h"
 #include "dialogs/main/Thumbnails.h"
 #include "dialogs/main/UpdateCheck.h"
 #include "host/Application.h"
 #include "host/Codes.h"
 #include "host/Component.h"
 #include "host/Document.h"
-#include "properties/DialogPosition.h"
-#include "properties/PropertyTable.h"
+#include "properties/table/PropertyTable.h"
 #include "support/Text.h"
 
 namespace dialogs {
@@ -135,7 +135,7 @@ void frmPreview::Form_Load() {
     for (auto* item : MenuArray("mnoOrient")) item->Checked = stored && *stored == item->Index;
     pick_ = std::make_unique<addin::clsPickOccur>(state_);
     picked_ = pick_->OnPicked.Subscribe([this] { OnPicked(); });
-    properties::RestorePosition(state_, *this, kPreviewSection);
+    addin::RestorePosition(state_, *this, kPreviewSection);
 }
 
 void frmPreview::Form_Activate() {
@@ -144,7 +144,7 @@ void frmPreview::Form_Activate() {
 }
 
 void frmPreview::Form_QueryUnload(bool& /*cancel*/) {
-    properties::SavePosition(state_, *this, kPreviewSection);
+    addin::SavePosition(state_, *this, kPreviewSection);
     state_.selectedOccurrence = nullptr;
     ReleasePick();
 }

@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "support/Event.h"
 #include "ui/Form.h"
 

@@ -1,10 +1,10 @@
 // The main tools dialog: component operations, thumbnails, browser names and the
 // buttons that open the other tools.
+#include "copy/engine/modBuildAssembly.h"
 #include "copy/frmCloneNames.h"
 #include "copy/frmOpenIDW.h"
 #include "copy/frmPacknLink.h"
 #include "copy/frmSaveAsReplace.h"
-#include "copy/modBuildAssembly.h"
 #include "copy/paths/Paths.h"
 #include "dialogs/main/BrowserNames.h"
 #include "dialogs/main/Thumbnails.h"
@@ -136,7 +136,7 @@ void frmPreview::cmdChgBrowser_Click() {
 void frmPreview::mnuExplorer_Click() {
     auto shown = ShownDocument();
     std::string folder =
-        copy::SplitPath(support::Required(shown, "active document")->FullFileName()).directory;
+        paths::SplitPath(support::Required(shown, "active document")->FullFileName()).directory;
     if (folder.empty()) {
         state_.platform.MsgBox(kNotSavedYet);
         return;
@@ -190,7 +190,7 @@ void frmPreview::cmdMakeLite_Click() {
     StopPicking();
     auto top = state_.App().ActiveDocument();
     copy::modBuildAssembly::Build(
-        state_, *support::Required(top, "active document")->ComponentDefinition()->Occurrences());
+        state_.App(), *support::Required(top, "active document")->ComponentDefinition()->Occurrences());
     state_.selectedOccurrence = nullptr;
     Refill();
     TogglePicking();

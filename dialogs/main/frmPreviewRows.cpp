@@ -5,8 +5,8 @@
 #include "host/Codes.h"
 #include "host/Component.h"
 #include "host/Document.h"
-#include "properties/PropertyEdits.h"
-#include "properties/PropertyTable.h"
+#include "properties/table/PropertyEdits.h"
+#include "properties/table/PropertyTable.h"
 #include "support/Text.h"
 
 namespace dialogs {
@@ -66,7 +66,7 @@ void frmPreview::OpenNestedDialog() {
 
 void frmPreview::SaveCopy(host::Document& shown) {
     std::string current = shown.FullFileName();
-    std::string newName = copy::SaveFilePrompt(state_.platform, current, support::Right(current, 3));
+    std::string newName = paths::SaveFilePrompt(state_.platform, current, support::Right(current, 3));
     if (newName.empty()) return;
     try {
         shown.SaveAs(newName, true);

@@ -1,6 +1,6 @@
 #include "dialogs/main/iPartConversion.h"
 
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "copy/paths/Paths.h"
 #include "host/Application.h"
 #include "host/Codes.h"
@@ -55,7 +55,7 @@ void iPartConversion::Run() {
         platform.MsgBox(kNoMembers);
         return;
     }
-    std::string folder = copy::SplitPath(assembly->FullFileName()).directory + kFolderName + "\\";
+    std::string folder = paths::SplitPath(assembly->FullFileName()).directory + kFolderName + "\\";
     std::string question =
         "Convert every iPart member of this assembly to a normal part saved in\r" + folder + "?";
     if (platform.MsgBox(question, ui::vbYesNo, kTitle) != ui::vbYes) return;
@@ -84,7 +84,7 @@ int iPartConversion::Convert(const std::vector<std::shared_ptr<host::ComponentOc
 std::string iPartConversion::ConvertedFile(host::Document& member, const std::string& folder) {
     auto known = converted_.find(member.FullFileName());
     if (known != converted_.end()) return known->second;
-    std::string target = FreeName(folder, copy::SplitPath(member.FullFileName()).fileName);
+    std::string target = FreeName(folder, paths::SplitPath(member.FullFileName()).fileName);
     WriteNormalPart(member, target);
     converted_[member.FullFileName()] = target;
     return target;

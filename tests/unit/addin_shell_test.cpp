@@ -6,12 +6,13 @@
 #include <sstream>
 
 #include "addin/clsAppCmd.h"
-#include "addin/clsPickOccur.h"
-#include "addin/clsSelect.h"
+#include "addin/shared/clsPickOccur.h"
+#include "addin/shared/clsSelect.h"
 #include "host/Codes.h"
 #include "host/Component.h"
 #include "settings/Settings.h"
 #include "simhost/SimHost.h"
+#include "test_support.h"
 #include "ui/headless/HeadlessPlatform.h"
 
 namespace {
@@ -33,9 +34,8 @@ public:
 
 class AddinShellTest : public ::testing::Test {
 protected:
-    fs::path root =
-        fs::temp_directory_path() /
-        ("tarnwell-shell-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    test_support::ScratchFolder scratch{"shell"};
+    fs::path root = scratch.Path();
     std::ostringstream out;
     ui::headless::Transcript transcript{out};
     ui::headless::HeadlessPlatform platform{transcript};
@@ -45,8 +45,6 @@ protected:
     std::unique_ptr<addin::clsAppCmd> server;
 
     void SetUp() override {
-        fs::remove_all(root);
-        fs::create_directories(root);
         fs::copy(fs::path(TARNWELL_SOURCE_DIR) / "examples" / "workspace", root / "drive",
                  fs::copy_options::recursive);
         host.MapDrive('C', root / "drive");
@@ -57,7 +55,6 @@ protected:
     void TearDown() override {
         server.reset();
         host.CloseAll();
-        fs::remove_all(root);
     }
     addin::AddinState& State() { return server->State(); }
     void OpenGearbox() { host.Open("C:\\Work\\Gearbox.iam"); }

@@ -6,7 +6,7 @@
 #include <sstream>
 #include <string>
 
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "settings/Settings.h"
 #include "simhost_fixture.h"
 #include "ui/headless/HeadlessPlatform.h"

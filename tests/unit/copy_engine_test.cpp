@@ -6,16 +6,18 @@
 #include <filesystem>
 #include <sstream>
 
-#include "addin/AddinState.h"
-#include "copy/modBuildAssembly.h"
-#include "copy/modRecurseSaveNReplace.h"
+#include "addin/shared/AddinState.h"
+#include "copy/engine/PackingWalk.h"
+#include "copy/engine/RenamingWalk.h"
+#include "copy/engine/modBuildAssembly.h"
 #include "host/Application.h"
 #include "host/Codes.h"
 #include "host/Component.h"
 #include "host/Document.h"
-#include "properties/AttributeHelpers.h"
+#include "properties/table/AttributeHelpers.h"
 #include "settings/Settings.h"
 #include "simhost/SimHost.h"
+#include "test_support.h"
 #include "ui/headless/HeadlessPlatform.h"
 
 namespace copy_test {
@@ -23,11 +25,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// The walks know no dialog: their progress lines land here.
+class RecordedProgress : public copy::Progress {
+public:
+    std::vector<std::string> lines;
+    void ShowStatus(const std::string& line) override { lines.push_back(line); }
+};
+
 class CopyEngine : public ::testing::Test {
 protected:
-    fs::path root =
-        fs::temp_directory_path() /
-        ("tarnwell-copy-" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    test_support::ScratchFolder scratch{"copy"};
+    fs::path root = scratch.Path();
+    RecordedProgress progress;
     std::ostringstream out;
     ui::headless::Transcript transcript{out};
     ui::headless::HeadlessPlatform platform{transcript};
@@ -36,7 +45,6 @@ protected:
     std::unique_ptr<addin::AddinState> state;
 
     void SetUp() override {
-        fs::remove_all(root);
         fs::create_directories(root / "D");
         fs::copy(fs::path(TARNWELL_SOURCE_DIR) / "tests/fixtures/copy", root / "C",
                  fs::copy_options::recursive);
@@ -51,8 +59,8 @@ protected:
     void TearDown() override {
         state.reset();
         host.CloseAll();
-        fs::remove_all(root);
     }
+    copy::WalkContext Context() { return {*state->app, host.FileSystem(), platform, progress}; }
     host::DocumentPtr Open(const std::string& path) { return state->app->Documents()->Open(path, true); }
     bool Exists(const std::string& path) { return host.FileSystem().FileExists(path); }
     bool Said(const std::string& text) const { return out.str().find(text) != std::string::npos; }
@@ -61,26 +69,28 @@ protected:
 TEST_F(CopyEngine, AFailingSaveStopsTheRenamingWalkAndReachesTheCaller) {
     host.FailSaveOf("D:\\!New-Arm-001.iam");
     auto frame = Open("C:\\Work\\Frame.iam");
-    std::string target = "D:";
-    EXPECT_THROW(copy::RecurseOccurrences(*state, *frame, "!New-", "-001", target), support::Error);
+    EXPECT_THROW(copy::RecurseOccurrences(Context(), *frame, "!New-", "-001", "D:"), support::Error);
     EXPECT_TRUE(Exists("D:\\!New-Bracket-001.ipt"));  // copied before the arm
     EXPECT_FALSE(Exists("D:\\!New-Plate-001.ipt"));   // never reached
+    EXPECT_EQ(progress.lines.front(), "Saving: D:\\!New-Bolt-001.ipt");
+    EXPECT_EQ(progress.lines.back(), "Saving: D:\\!New-Arm-001.iam");
 }
 
 TEST_F(CopyEngine, PackingRefusesTheSourceFolderExactlyAndStartsNothingWhileStopped) {
     auto cart = Open("C:\\Cart\\Cart.iam");
-    copy::PackDocument(*state, *cart, "C:\\Cart");
+    bool stop = false;
+    copy::PackDocument(Context(), *cart, "C:\\Cart", copy::PackSource::Memory, stop);
     EXPECT_TRUE(Said("msgbox \"Source and Destination directories cannot be the same\""));
-    EXPECT_TRUE(state->packStop);
+    EXPECT_TRUE(stop);
     EXPECT_FALSE(Exists("C:\\Cart\\Wheel.ipt"));
 
-    copy::PackDocument(*state, *cart, "D:\\");
+    copy::PackDocument(Context(), *cart, "D:\\", copy::PackSource::Memory, stop);
     EXPECT_FALSE(Exists("D:\\Cart.iam"));
 
     // The same folder in another letter case is another folder to the comparison.
-    state->packStop = false;
+    stop = false;
     out.str("");
-    copy::PackDocument(*state, *cart, "c:\\cart\\");
+    copy::PackDocument(Context(), *cart, "c:\\cart\\", copy::PackSource::Memory, stop);
     EXPECT_FALSE(Said("Source and Destination"));
 }
 
@@ -93,7 +103,7 @@ host::Matrix InTurnedArm(double x, double y, double z) {
 
 TEST_F(CopyEngine, BuildPlacesEveryVisiblePartAtItsTopLevelPositionGroundedOncePerBuild) {
     auto frame = Open("C:\\Work\\Frame.iam");
-    auto built = copy::modBuildAssembly::Build(*state, *frame->ComponentDefinition()->Occurrences());
+    auto built = copy::modBuildAssembly::Build(*state->app, *frame->ComponentDefinition()->Occurrences());
     auto placed = built->ComponentDefinition()->Occurrences();
     ASSERT_EQ(placed->Count(), 11);  // 5 bolts; plate, vendor bolt and pin of each arm; no bracket
     std::vector<std::pair<int, host::Matrix>> expected = {{3, host::Matrix::Translation(30, 0, 0)},
@@ -106,7 +116,7 @@ TEST_F(CopyEngine, BuildPlacesEveryVisiblePartAtItsTopLevelPositionGroundedOnceP
         EXPECT_TRUE(placed->Item(index)->Transformation() == matrix) << index;
     for (std::int32_t i = 1; i <= placed->Count(); ++i) EXPECT_TRUE(placed->Item(i)->Grounded()) << i;
 
-    auto again = copy::modBuildAssembly::Build(*state, *frame->ComponentDefinition()->Occurrences());
+    auto again = copy::modBuildAssembly::Build(*state->app, *frame->ComponentDefinition()->Occurrences());
     EXPECT_EQ(again->ComponentDefinition()->Occurrences()->Count(), 11);
 }
 

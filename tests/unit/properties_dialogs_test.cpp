@@ -2,9 +2,9 @@
 // while a command is active, and stored positions that a window cannot take.
 #include <gtest/gtest.h>
 
+#include "addin/shared/DialogPosition.h"
 #include "addin_state_fixture.h"
 #include "host/Document.h"
-#include "properties/DialogPosition.h"
 #include "properties/frmPartProps.h"
 
 namespace {
@@ -27,7 +27,7 @@ TEST_F(PartPropsTest, AStoredPositionAWindowCannotTakePlacesTheDialogAtTheDefaul
     auto& dialog = state->Dialog<properties::frmPartProps>();
     auto placed = [&](const std::string& top) {
         settings.values["Pos/DialogTop"] = top;
-        properties::RestorePosition(*state, dialog, "Pos");
+        addin::RestorePosition(*state, dialog, "Pos");
         return dialog.Top;
     };
     EXPECT_EQ(placed("1440"), 1440);

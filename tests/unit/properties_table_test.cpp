@@ -7,8 +7,8 @@
 #include "host/Document.h"
 #include "host/Properties.h"
 #include "host/Styles.h"
-#include "properties/PropertyEdits.h"
-#include "properties/PropertyTable.h"
+#include "properties/table/PropertyEdits.h"
+#include "properties/table/PropertyTable.h"
 
 namespace {
 

@@ -5,16 +5,15 @@
 #include <filesystem>
 #include <fstream>
 
+#include "test_support.h"
+
 namespace {
 
 class SettingsTest : public ::testing::Test {
 protected:
-    std::filesystem::path dir =
-        std::filesystem::temp_directory_path() /
-        ("tarnwell-settings-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-         ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    test_support::ScratchFolder scratch{"settings"};
+    std::filesystem::path dir = scratch.Path();
     std::filesystem::path file = dir / "nested" / "settings.ini";
-    void TearDown() override { std::filesystem::remove_all(dir); }
 };
 
 TEST_F(SettingsTest, DefaultsUntilSavedThenPersistsAcrossStores) {

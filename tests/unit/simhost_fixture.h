@@ -5,13 +5,13 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
-#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "simhost/SimHost.h"
 #include "support/Error.h"
+#include "test_support.h"
 
 namespace simhost_test {
 
@@ -36,28 +36,17 @@ public:
 // A copy of the sample workspace in a fresh folder, mapped as drive C:.
 class SimHostTest : public ::testing::Test {
 protected:
-    fs::path root;
+    test_support::ScratchFolder scratch{"simhost"};
+    fs::path root = scratch.Path();
     simhost::SimHost host;
     RecordingObserver observer;
 
     void SetUp() override {
-        const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        // Unique per run: several test programs may run at once on one machine.
-        std::random_device random;
-        root = fs::temp_directory_path() / ("tarnwell-simhost-" + std::string(info->test_suite_name()) + "-" +
-                                            info->name() + "-" + std::to_string(random()));
-        fs::create_directories(root);
         fs::copy(fs::path(TARNWELL_SOURCE_DIR) / "examples" / "workspace", root, fs::copy_options::recursive);
         host.MapDrive('C', root);
         host.SetObserver(&observer);
     }
-    void TearDown() override {
-        host.CloseAll();
-        std::error_code ec;
-        for (auto& entry : fs::recursive_directory_iterator(root, ec))
-            fs::permissions(entry.path(), fs::perms::owner_write, fs::perm_options::add, ec);
-        fs::remove_all(root, ec);
-    }
+    void TearDown() override { host.CloseAll(); }
 
     fs::path OnDisk(const std::string& relative) const { return root / relative; }
     std::string ReadFile(const std::string& relative) const {
@@ -72,16 +61,6 @@ protected:
     }
 };
 
-// The error a call raised, for checks on its number and text.
-template <class F>
-support::Error ErrorOf(F f) {
-    try {
-        f();
-    } catch (const support::Error& e) {
-        return e;
-    }
-    ADD_FAILURE() << "expected a support::Error";
-    return support::Error(0, "");
-}
+using test_support::ErrorOf;
 
 }  // namespace simhost_test

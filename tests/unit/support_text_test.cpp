@@ -5,10 +5,12 @@
 
 #include "support/Error.h"
 #include "support/Text.h"
-#include "tests/unit/error_number.h"
+#include "test_support.h"
 
 namespace support {
 namespace {
+
+using test_support::ErrorNumber;
 
 TEST(Substrings, ClampAtTheEndsAndRefuseNegativeArguments) {
     EXPECT_EQ(Left("abc", 0), "");

@@ -6,10 +6,12 @@
 #include "support/Error.h"
 #include "support/Text.h"
 #include "support/Variant.h"
-#include "tests/unit/error_number.h"
+#include "test_support.h"
 
 namespace support {
 namespace {
+
+using test_support::ErrorNumber;
 
 struct Thing : Object {};
 

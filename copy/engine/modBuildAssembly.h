@@ -2,12 +2,10 @@
 #include <memory>
 #include <vector>
 
-#include "copy/clsFileTrans.h"
+#include "copy/engine/clsFileTrans.h"
 
-namespace addin {
-class AddinState;
-}
 namespace host {
+class Application;
 class ComponentOccurrences;
 class Document;
 }  // namespace host
@@ -24,6 +22,6 @@ void Collect(host::ComponentOccurrences& occurrences, std::vector<clsFileTrans>&
 
 // Builds the new assembly (made visible, so it becomes the active document) from the
 // top assembly's occurrences and returns it, unsaved and unnamed.
-std::shared_ptr<host::Document> Build(addin::AddinState& state, host::ComponentOccurrences& occurrences);
+std::shared_ptr<host::Document> Build(host::Application& app, host::ComponentOccurrences& occurrences);
 
 }  // namespace copy::modBuildAssembly

@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "host/Object.h"
 #include "support/Event.h"
 

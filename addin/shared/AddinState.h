@@ -50,7 +50,6 @@ public:
     std::shared_ptr<host::ComponentOccurrence> selectedOccurrence;  // null: the top-level document
     VbBool mainDialogOpen = kVbFalse;
     std::int32_t deletedComponents = 0;  // shown by the delete-invisible dialog
-    bool packStop = false;               // no further packing is started while set
 
     // The host application; fails as the host does when there is none.
     host::Application& App();

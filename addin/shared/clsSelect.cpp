@@ -1,4 +1,4 @@
-#include "addin/clsSelect.h"
+#include "addin/shared/clsSelect.h"
 
 #include "host/Application.h"
 #include "host/Commands.h"

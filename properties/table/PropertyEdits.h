@@ -1,5 +1,5 @@
 #pragma once
-#include "properties/PropertyTable.h"
+#include "properties/table/PropertyTable.h"
 
 namespace host {
 class Document;

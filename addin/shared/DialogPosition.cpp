@@ -1,14 +1,14 @@
-#include "properties/DialogPosition.h"
+#include "addin/shared/DialogPosition.h"
 
 #include <cmath>
 #include <cstdint>
 #include <limits>
 
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 #include "support/Text.h"
 #include "ui/Form.h"
 
-namespace properties {
+namespace addin {
 
 namespace {
 
@@ -38,4 +38,4 @@ void SavePosition(addin::AddinState& state, const ui::Form& form, const std::str
     state.SaveSetting(section, "DialogLeft", support::NumberToText(form.Left));
 }
 
-}  // namespace properties
+}  // namespace addin

@@ -1,4 +1,4 @@
-#include "addin/clsPickOccur.h"
+#include "addin/shared/clsPickOccur.h"
 
 #include "host/Application.h"
 #include "host/Commands.h"

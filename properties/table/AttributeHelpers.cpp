@@ -1,4 +1,4 @@
-#include "properties/AttributeHelpers.h"
+#include "properties/table/AttributeHelpers.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "properties/PropertyTable.h"
+#include "properties/table/PropertyTable.h"
 
 #include <functional>
 
@@ -58,7 +58,7 @@ PropertyRows ReadPropertyRows(host::Document& document) {
     auto property = [&](const PropertyAddress& address) {
         return ReadOrFallback([&] { return ReadProperty(document, address).ToText(); });
     };
-    auto path = copy::SplitPath(document.FullFileName());
+    auto path = paths::SplitPath(document.FullFileName());
     return PropertyRows{{
         {"FileName", path.fileName},
         {"Path", path.directory},

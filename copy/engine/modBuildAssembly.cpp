@@ -1,6 +1,5 @@
-#include "copy/modBuildAssembly.h"
+#include "copy/engine/modBuildAssembly.h"
 
-#include "addin/AddinState.h"
 #include "host/Application.h"
 #include "host/Codes.h"
 #include "host/Component.h"
@@ -33,13 +32,12 @@ void Collect(host::ComponentOccurrences& occurrences, std::vector<clsFileTrans>&
     }
 }
 
-std::shared_ptr<host::Document> Build(addin::AddinState& state, host::ComponentOccurrences& occurrences) {
+std::shared_ptr<host::Document> Build(host::Application& app, host::ComponentOccurrences& occurrences) {
     // Each build starts from an empty collection, so a build that failed half-way
     // leaves nothing behind for the next one.
     std::vector<clsFileTrans> records;
     Collect(occurrences, records);
 
-    auto& app = state.App();
     std::string templateFile = app.FileLocations()->TemplatesPath() + kTemplateName;
     app.Documents()->Add(host::kAssemblyDocumentObject, templateFile, true);
     auto assembly = app.ActiveDocument();

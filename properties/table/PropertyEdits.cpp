@@ -1,4 +1,4 @@
-#include "properties/PropertyEdits.h"
+#include "properties/table/PropertyEdits.h"
 
 #include "support/Text.h"
 #include "ui/Platform.h"

@@ -1,4 +1,4 @@
-#include "addin/AddinState.h"
+#include "addin/shared/AddinState.h"
 
 #include "host/Application.h"
 #include "host/Component.h"

@@ -8,7 +8,7 @@ namespace ui {
 class Form;
 }
 
-namespace properties {
+namespace addin {
 
 // A dialog that stays beside the host keeps its place in its own settings section:
 // "DialogTop" and "DialogLeft", in twips. A stored value that is not a number the
@@ -18,4 +18,4 @@ void RestorePosition(addin::AddinState& state, ui::Form& form, const std::string
                      const std::string& defaultValue = "0");
 void SavePosition(addin::AddinState& state, const ui::Form& form, const std::string& section);
 
-}  // namespace properties
+}  // namespace addin

@@ -1,0 +1,23 @@
+# Fails when a file of a library includes a project header from a folder that is neither
+# the library's own nor one of the libraries it depends on, so that a layer can only
+# reach down. Called at build time with LIBRARY, FILES and ALLOWED ("|"-separated).
+string(REPLACE "|" ";" files "${FILES}")
+string(REPLACE "|" ";" allowed "${ALLOWED}")
+set(wrong "")
+foreach(file ${files})
+  file(STRINGS "${file}" lines REGEX "^[ \t]*#[ \t]*include[ \t]+\"")
+  foreach(line ${lines})
+    string(REGEX REPLACE "^[ \t]*#[ \t]*include[ \t]+\"([^\"]+)\".*" "\\1" header "${line}")
+    get_filename_component(folder "${header}" DIRECTORY)
+    if(folder STREQUAL "")
+      continue()
+    endif()
+    list(FIND allowed "${folder}" found)
+    if(found EQUAL -1)
+      string(APPEND wrong "\n  ${file}: ${header}")
+    endif()
+  endforeach()
+endforeach()
+if(wrong)
+  message(FATAL_ERROR "${LIBRARY} may include only from ${allowed}; these reach elsewhere:${wrong}")
+endif()
