@@ -28,15 +28,15 @@ constexpr CommandRow kDoneCommand{"TarnwellDone", "Close Tarnwell", "Close Tarnw
 // Which bar receives which command, in the order the placements are made.
 struct Placement {
     const char* bar;
-    int command;  // 1 main, 2 part, 3 drawing
+    clsAppCmd::Command command;
 };
 constexpr Placement kPlacements[] = {
-    {"DLxDrawingAnnotationPanelCmdBar", 3},
-    {"DLxDrawingViewsPanelCmdBar", 3},
-    {"AMxAssemblyPanelCmdBar", 1},
-    {"AMxWeldmentCmdBar", 1},
-    {"PMxPartFeatureCmdBar", 2},
-    {"MBxSheetMetalFeatureCmdBar", 2},
+    {"DLxDrawingAnnotationPanelCmdBar", clsAppCmd::Command::Drawing},
+    {"DLxDrawingViewsPanelCmdBar", clsAppCmd::Command::Drawing},
+    {"AMxAssemblyPanelCmdBar", clsAppCmd::Command::Main},
+    {"AMxWeldmentCmdBar", clsAppCmd::Command::Main},
+    {"PMxPartFeatureCmdBar", clsAppCmd::Command::Part},
+    {"MBxSheetMetalFeatureCmdBar", clsAppCmd::Command::Part},
 };
 
 constexpr const char* kAssemblyRequired = "An assembly document must be active.";
@@ -57,7 +57,11 @@ void clsAppCmd::Activate(host::AddInSite& addInSiteObject, bool /*firstTime*/) {
     state_.app = addInSiteObject.Application();
 
     // From here on a failing step is skipped and activation goes on; the last error
-    // stays pending, as the icon fallback needs to see it.
+    // stays pending, as the icon fallback needs to see it. Suppression ends with the
+    // fallback: a host that refused the pictures has been answered, and from then on a
+    // failure (a missing bar, say) reaches the host as an activation error, so that the
+    // designer learns the buttons are not all there. A host that took the pictures
+    // never leaves suppression, and activation always completes.
     bool suppress = true;
     std::int32_t pending = 0;
     auto step = [&](const std::function<void()>& body) {
@@ -112,10 +116,10 @@ void clsAppCmd::SubscribeButtons() {
             [this] { Guarded(&clsAppCmd::obuttonHandlerIDW_OnClick); });
 }
 
-void clsAppCmd::Place(const std::string& barName, int command) {
-    const auto& definition = command == 1   ? oButtonHandler1
-                             : command == 2 ? oButtonHandler2
-                                            : obuttonHandlerIDW;
+void clsAppCmd::Place(const std::string& barName, Command command) {
+    const auto& definition = command == Command::Main   ? oButtonHandler1
+                             : command == Command::Part ? oButtonHandler2
+                                                        : obuttonHandlerIDW;
     auto bar = state_.App().UserInterfaceManager()->CommandBars()->Item(barName);
     bar->Controls()->Add(host::kBarControlButton, support::Required(definition, "button definition"));
 }

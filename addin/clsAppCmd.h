@@ -32,6 +32,9 @@ public:
     host::ObjectPtr Automation() const { return nullptr; }
 
     AddinState& State() { return state_; }
+
+    // The three commands that open a dialog, each with its own button.
+    enum class Command { Main, Part, Drawing };
     // The names of the members that still hold a host object, for the session's checks.
     std::vector<std::string> HeldReferences() const;
 
@@ -43,7 +46,7 @@ private:
     void oContextMenu_OnContextMenu(std::int32_t selectionDevice, host::ObjectPtr additionalInfo,
                                     std::shared_ptr<host::CommandBar> commandBar);
     void SubscribeButtons();
-    void Place(const std::string& barName, int command);
+    void Place(const std::string& barName, Command command);
     // Runs a host event handler; an error it raises goes to the platform's report.
     void Guarded(void (clsAppCmd::*handler)());
 

@@ -102,29 +102,25 @@ void frmPartProps::ListBox1_DblClick() {
     if (row == kFileNameRow) {
         SaveCopy();
     } else if (row == kColorRow || (row >= kFirstEMatrixRow && row <= kLastEMatrixRow)) {
-        OpenNestedDialog();
+        RowWithoutDialogYet();
     } else if (row == kMaterialRow) {
         if (!isPart) {
             state_.platform.MsgBox(kMaterialPartsOnly);
             return;
         }
-        OpenNestedDialog();
+        RowWithoutDialogYet();
     } else if (row == kMassRow) {
         if (!isPart) {
             state_.platform.MsgBox(kWeightPartsOnly);
             return;
         }
-        OpenNestedDialog();
+        RowWithoutDialogYet();
     }
 }
 
-// The colour, material, weight and eMatrix dialogs read the working document; it is
-// set only while one of them is open, since they share it with every other dialog.
-void frmPartProps::OpenNestedDialog() {
-    state_.workingDocument = target_;
-    // Those dialogs arrive with the material library and the eMatrix attributes; until
-    // then the row opens nothing.
-    state_.workingDocument = nullptr;
+// The colour, material, weight and eMatrix dialogs are still to come: their rows open
+// nothing yet and only show the list afresh.
+void frmPartProps::RowWithoutDialogYet() {
     Refresh();
 }
 

@@ -17,9 +17,6 @@ class frmPartProps : public ui::Form {
 public:
     explicit frmPartProps(addin::AddinState& state);
 
-    const std::shared_ptr<host::Document>& TargetDocument() const { return target_; }
-    bool AssemblyContext() const { return assemblyContext_ != addin::kVbFalse; }
-
 protected:
     void Build() override;
     void Form_Load() override;
@@ -30,7 +27,7 @@ private:
     void ListBox1_DblClick();
     void ListBox1_MouseUp(int button);
     void SaveCopy();
-    void OpenNestedDialog();
+    void RowWithoutDialogYet();
     void cmdOpenIDW_Click();
     void cmdCancel_Click();
     void mnuExplore_Click();

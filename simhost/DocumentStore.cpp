@@ -7,6 +7,7 @@
 #include "simhost/SimState.h"
 #include "simhost/WinPath.h"
 #include "support/Error.h"
+#include "support/Text.h"
 
 using support::Error;
 namespace errors = support::errors;
@@ -40,7 +41,7 @@ void ForEachRef(Data& data, F f) {
 
 std::string DocumentStore::Key(const std::string& fullFileName) const {
     winpath::Parsed p = winpath::Parse(fullFileName);
-    return winpath::Lower(winpath::Join(p.drive, p.components));
+    return support::LCase(winpath::Join(p.drive, p.components));
 }
 
 SimDocumentPtr DocumentStore::Find(const std::string& fullFileName) const {

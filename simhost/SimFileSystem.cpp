@@ -7,6 +7,7 @@
 #include "simhost/SimHost.h"
 #include "simhost/WinPath.h"
 #include "support/Error.h"
+#include "support/Text.h"
 
 namespace fs = std::filesystem;
 using support::Error;
@@ -35,7 +36,7 @@ std::string ReadBytes(const fs::path& p, const std::string& windowsPath) {
 }  // namespace
 
 void SimFileSystem::FailSaveOf(std::string_view path) {
-    failSaveOf_.insert(winpath::Lower(Canonical(path)));
+    failSaveOf_.insert(support::LCase(Canonical(path)));
 }
 
 VirtualDrive::Resolved SimFileSystem::ExistingFile(std::string_view path) const {
@@ -48,7 +49,7 @@ void SimFileSystem::CheckWriteAllowed(const VirtualDrive::Resolved& target) cons
     if (refuseWrites_)
         throw Error(errors::kPermissionDenied,
                     "Permission denied: " + target.windowsPath + " (the disk refuses writes)");
-    if (failSaveOf_.count(winpath::Lower(target.windowsPath)))
+    if (failSaveOf_.count(support::LCase(target.windowsPath)))
         throw Error(errors::kFail, "Cannot save " + target.windowsPath);
     if (!target.parentExists) throw Error(errors::kPathNotFound, "Path not found: " + target.windowsPath);
     if (target.isFolder)

@@ -4,6 +4,7 @@
 
 #include "simhost/WinPath.h"
 #include "support/Error.h"
+#include "support/Text.h"
 
 namespace fs = std::filesystem;
 
@@ -36,7 +37,7 @@ const VirtualDrive::Listing* VirtualDrive::ListingOf(const fs::path& hostFolder,
         Entry e{name, entry.is_directory(typeEc)};
         // Two names that differ only in case cannot both exist on the host; the
         // smaller one wins so that the choice does not depend on listing order.
-        auto [slot, fresh] = listing.byLower.try_emplace(winpath::Lower(name), e);
+        auto [slot, fresh] = listing.byLower.try_emplace(support::LCase(name), e);
         if (!fresh && name < slot->second.name) slot->second = e;
     }
     return &listing;
@@ -66,7 +67,7 @@ VirtualDrive::Resolved VirtualDrive::Resolve(std::string_view windowsPath) const
         const Entry* hit = nullptr;
         auto lookUp = [&](bool trustCache) {
             if (const Listing* listing = present ? ListingOf(out.hostPath, trustCache) : nullptr) {
-                auto found = listing->byLower.find(winpath::Lower(part));
+                auto found = listing->byLower.find(support::LCase(part));
                 if (found != listing->byLower.end()) hit = &found->second;
             }
         };
@@ -98,14 +99,14 @@ void VirtualDrive::NoteCreated(const fs::path& hostPath, bool isFolder) const {
     auto it = cache_.find(hostPath.parent_path().string());
     if (it == cache_.end()) return;
     std::string name = hostPath.filename().string();
-    it->second.byLower[winpath::Lower(name)] = Entry{name, isFolder};
+    it->second.byLower[support::LCase(name)] = Entry{name, isFolder};
     Restamp(hostPath.parent_path(), it->second);
 }
 
 void VirtualDrive::NoteRemoved(const fs::path& hostPath) const {
     auto it = cache_.find(hostPath.parent_path().string());
     if (it == cache_.end()) return;
-    it->second.byLower.erase(winpath::Lower(hostPath.filename().string()));
+    it->second.byLower.erase(support::LCase(hostPath.filename().string()));
     Restamp(hostPath.parent_path(), it->second);
 }
 
@@ -115,7 +116,7 @@ std::vector<std::string> VirtualDrive::FileNames(const fs::path& hostFolder) con
         for (const auto& [lower, entry] : listing->byLower)
             if (!entry.isFolder) names.push_back(entry.name);
     std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
-        std::string la = winpath::Lower(a), lb = winpath::Lower(b);
+        std::string la = support::LCase(a), lb = support::LCase(b);
         return la != lb ? la < lb : a < b;
     });
     return names;

@@ -4,15 +4,9 @@
 #include <cctype>
 
 #include "support/Error.h"
+#include "support/Text.h"
 
 namespace simhost::winpath {
-
-std::string Lower(std::string_view s) {
-    std::string out(s);
-    for (char& c : out)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return out;
-}
 
 bool EqualNoCase(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) return false;
@@ -78,7 +72,7 @@ std::string FolderPart(std::string_view path) {
 std::string Extension(std::string_view path) {
     std::string name = FileNamePart(path);
     std::size_t dot = name.rfind('.');
-    return dot == std::string::npos ? std::string() : Lower(name.substr(dot));
+    return dot == std::string::npos ? std::string() : support::LCase(name.substr(dot));
 }
 
 std::string BaseName(std::string_view path) {

@@ -7,8 +7,6 @@
 // here; what a path names on disk is the virtual drive's business.
 namespace simhost::winpath {
 
-// ASCII lower case: the host's names are ANSI, and folding must not depend on a locale.
-std::string Lower(std::string_view s);
 bool EqualNoCase(std::string_view a, std::string_view b);
 
 struct Parsed {

@@ -12,7 +12,6 @@ public:
     Connection() = default;
     explicit Connection(std::shared_ptr<void> token) : token_(std::move(token)) {}
     void Reset() { token_.reset(); }
-    bool Connected() const { return token_ != nullptr; }
 
 private:
     std::shared_ptr<void> token_;
@@ -37,12 +36,6 @@ public:
             if (auto s = w.lock()) live.push_back(s);
         Prune();
         for (auto& s : live) (*s)(args...);
-    }
-
-    bool HasSubscribers() const {
-        for (auto& w : slots_)
-            if (!w.expired()) return true;
-        return false;
     }
 
 private:

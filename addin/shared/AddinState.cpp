@@ -26,10 +26,4 @@ void AddinState::SaveSetting(const std::string& section, const std::string& key,
     settings.SaveSetting(kSettingsApp, section, key, value);
 }
 
-ui::Form* AddinState::FindDialog(const std::string& name) {
-    for (auto& [type, form] : dialogs_)
-        if (form && form->Name() == name) return form.get();
-    return nullptr;
-}
-
 }  // namespace addin

@@ -65,13 +65,6 @@ public:
         if (!slot) slot = std::make_unique<F>(*this);
         return static_cast<F&>(*slot);
     }
-    template <class F>
-    F* DialogIfCreated() {
-        auto it = dialogs_.find(std::type_index(typeid(F)));
-        return it == dialogs_.end() ? nullptr : static_cast<F*>(it->second.get());
-    }
-    // Every dialog created so far, for the session driver's look-up by name.
-    ui::Form* FindDialog(const std::string& name);
 
 private:
     std::unordered_map<std::type_index, std::unique_ptr<ui::Form>> dialogs_;

@@ -8,6 +8,7 @@
 #include "host/Application.h"
 #include "host/Codes.h"
 #include "host/Document.h"
+#include "support/Text.h"
 #include "ui/headless/ScriptError.h"
 
 namespace session {
@@ -82,14 +83,10 @@ void SetEditMode(Session& s, const Args& args) {
 
 // The open document of that name, compared as the host's file system does: without case.
 host::DocumentPtr OpenDocument(Session& s, const std::string& fullFileName) {
-    auto lower = [](std::string text) {
-        for (auto& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-        return text;
-    };
     auto documents = s.Host().Application()->Documents();
     for (std::int32_t i = 1; i <= documents->Count(); ++i) {
         auto document = documents->Item(i);
-        if (lower(document->FullFileName()) == lower(fullFileName)) return document;
+        if (support::LCase(document->FullFileName()) == support::LCase(fullFileName)) return document;
     }
     throw ScriptError("no open document " + fullFileName);
 }

@@ -138,6 +138,9 @@ void frmPreview::Form_Load() {
     addin::RestorePosition(state_, *this, kPreviewSection);
 }
 
+// Each activation toggles picking rather than starting it: the dialog opens picking, and
+// coming back to it while a pick runs ends that pick. The "Select" / "Stop Select"
+// caption always tells the user which state the dialog is in.
 void frmPreview::Form_Activate() {
     Refill();
     TogglePicking();

@@ -60,7 +60,7 @@ private:
     // frmPreviewRows.cpp
     void ListBox1_DblClick();
     void SaveCopy(host::Document& shown);
-    void OpenNestedDialog();
+    void RowWithoutDialogYet();
 
     // frmPreviewOperations.cpp
     void cmdTopLevel_Click();

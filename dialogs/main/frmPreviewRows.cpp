@@ -38,27 +38,27 @@ void frmPreview::ListBox1_DblClick() {
         if (!state_.selectedOccurrence)
             state_.platform.MsgBox(kColorOnTopLevel);
         else
-            OpenNestedDialog();
+            RowWithoutDialogYet();
     } else if (row == properties::kMaterialRow) {
         if (!isPart)
             state_.platform.MsgBox(properties::kMaterialPartsOnly);
         else
-            OpenNestedDialog();
+            RowWithoutDialogYet();
     } else if (row == properties::kMassRow) {
         if (!isPart)
             state_.platform.MsgBox(properties::kWeightPartsOnly);
         else
-            OpenNestedDialog();
+            RowWithoutDialogYet();
     } else if (row >= kFirstEMatrixRow && row <= kLastEMatrixRow) {
-        OpenNestedDialog();
+        RowWithoutDialogYet();
     }
     Refill();
 }
 
-// The colour, material, weight and eMatrix dialogs arrive with their own subsystems;
-// until then the row opens nothing. Picking stops around the nested dialog so that a
-// click in the model does not change the document under it.
-void frmPreview::OpenNestedDialog() {
+// The colour, material, weight and eMatrix dialogs are still to come: their rows open
+// nothing yet. Picking already stops and starts again around the row, as it will around
+// those modal dialogs, so that a click in the model cannot change the document under them.
+void frmPreview::RowWithoutDialogYet() {
     StopPicking();
     Refill();
     TogglePicking();

@@ -3,20 +3,16 @@
 #include <algorithm>
 #include <cctype>
 
+#include "support/Text.h"
 #include "ui/Form.h"
 #include "ui/headless/MsgBoxNames.h"
 
 namespace ui::headless {
 
-namespace {
-std::string Lower(std::string text) {
-    for (auto& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return text;
-}
-}  // namespace
+namespace {}  // namespace
 
 void HeadlessPlatform::SetApplicationPath(const std::string& exeName, const std::string& path) {
-    appPaths_[Lower(exeName)] = path;
+    appPaths_[support::LCase(exeName)] = path;
 }
 
 void HeadlessPlatform::SetHostWindow(std::intptr_t window, const std::string& caption) {
@@ -106,7 +102,7 @@ void HeadlessPlatform::Shell(const std::string& commandLine, int windowStyle) {
 }
 
 std::string HeadlessPlatform::ApplicationPath(const std::string& exeName) {
-    auto found = appPaths_.find(Lower(exeName));
+    auto found = appPaths_.find(support::LCase(exeName));
     return found == appPaths_.end() ? "" : found->second;
 }
 
