@@ -14,6 +14,8 @@ bool HasList(ControlKind kind) {
     return kind == ControlKind::ListBox || kind == ControlKind::ComboBox;
 }
 
+}  // namespace
+
 std::string DescribeControl(const ui::Form& form, const ui::Control& c) {
     std::string line = std::string(ui::KindName(c.Kind())) + " " + c.Name();
     if (c.Kind() != ControlKind::ListBox && c.Kind() != ControlKind::Picture)
@@ -34,6 +36,8 @@ std::string DescribeControl(const ui::Form& form, const ui::Control& c) {
     }
     return line;
 }
+
+namespace {
 
 std::string DescribeMenu(const ui::MenuItem& m) {
     std::string line = "menu " + m.Name;

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "app/session/FormPrinter.h"
 #include "app/session/Session.h"
 #include "app/session/Verb.h"
 #include "support/Error.h"
@@ -206,6 +207,14 @@ void ClickMenu(Session& s, const Args& args) {
     form.ClickMenu(target.member, target.index);
 }
 
+void PrintControl(Session& s, const Args& args) {
+    Target target = ParseTarget(args, 0);
+    auto& form = s.LoadedForm(target.form);
+    auto* control = form.Find(target.member);
+    if (!control) throw ScriptError("form " + form.Name() + " has no control " + target.member);
+    s.Transcript().Write(DescribeControl(form, *control));
+}
+
 void Move(Session& s, const Args& args) {
     auto& form = s.LoadedForm(args.Text(0));
     form.Left = args.Int(1);
@@ -236,6 +245,7 @@ void AddFormVerbs(std::vector<Verb>& verbs) {
     verbs.push_back({"leave", "leave FORM.CONTROL", 1, 1, Leave, CheckTarget});
     verbs.push_back({"close", "close FORM", 1, 1, Close});
     verbs.push_back({"menu", "menu FORM.MENU[(INDEX)]", 1, 1, ClickMenu, CheckTarget});
+    verbs.push_back({"print control", "print control FORM.CONTROL", 1, 1, PrintControl, CheckTarget});
     verbs.push_back({"move", "move FORM LEFT TOP", 3, 3, Move, [](const Args& a) {
                          a.Int(1);
                          a.Int(2);
