@@ -56,6 +56,7 @@ public:
     virtual std::int32_t DisabledCommandTypes() const = 0;
     virtual void SetDisabledCommandTypes(std::int32_t types) = 0;
     virtual std::int32_t SoftwareVersionSaved() const = 0;  // major release that saved it
+    virtual bool NeedsMigrating() const = 0;                // saved by an older release
 
     virtual std::shared_ptr<host::PropertySets> PropertySets() = 0;
     virtual std::shared_ptr<host::UnitsOfMeasure> UnitsOfMeasure() = 0;

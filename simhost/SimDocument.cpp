@@ -277,7 +277,11 @@ void SimDocument::Close(bool skipSave) {
 }
 
 bool SimDocument::IsModifiable() const {
-    return data_.modifiable && data_.savedBy >= state_.softwareVersion;
+    return data_.modifiable && !NeedsMigrating();
+}
+
+bool SimDocument::NeedsMigrating() const {
+    return data_.savedBy < state_.softwareVersion;
 }
 
 bool SimDocument::ReservedForWrite() const {

@@ -78,6 +78,7 @@ public:
     std::int32_t DisabledCommandTypes() const override { return data_.disabledCommandTypes; }
     void SetDisabledCommandTypes(std::int32_t types) override;
     std::int32_t SoftwareVersionSaved() const override { return data_.savedBy; }
+    bool NeedsMigrating() const override;
     std::shared_ptr<host::PropertySets> PropertySets() override;
     std::shared_ptr<host::UnitsOfMeasure> UnitsOfMeasure() override;
     std::shared_ptr<host::ComponentDefinition> ComponentDefinition() override;

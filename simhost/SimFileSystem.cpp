@@ -39,6 +39,12 @@ void SimFileSystem::FailSaveOf(std::string_view path) {
     failSaveOf_.insert(support::LCase(Canonical(path)));
 }
 
+void SimFileSystem::RefuseWritesIn(std::string_view folder) {
+    std::string name = support::LCase(Canonical(folder));
+    if (name.empty() || name.back() != '\\') name += '\\';
+    refusedFolders_.insert(name);
+}
+
 VirtualDrive::Resolved SimFileSystem::ExistingFile(std::string_view path) const {
     auto r = drive_.Resolve(path);
     if (!r.exists || r.isFolder) throw Error(errors::kFileNotFound, "File not found: " + r.windowsPath);
@@ -51,6 +57,9 @@ void SimFileSystem::CheckWriteAllowed(const VirtualDrive::Resolved& target) cons
                     "Permission denied: " + target.windowsPath + " (the disk refuses writes)");
     if (failSaveOf_.count(support::LCase(target.windowsPath)))
         throw Error(errors::kFail, "Cannot save " + target.windowsPath);
+    std::string folder = support::LCase(target.windowsPath.substr(0, target.windowsPath.rfind('\\') + 1));
+    if (refusedFolders_.count(folder))
+        throw Error(errors::kPermissionDenied, "Permission denied: " + target.windowsPath);
     if (!target.parentExists) throw Error(errors::kPathNotFound, "Path not found: " + target.windowsPath);
     if (target.isFolder)
         throw Error(errors::kPermissionDenied, "Permission denied: " + target.windowsPath + " is a folder");

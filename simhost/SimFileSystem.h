@@ -23,6 +23,7 @@ public:
     // Faults.
     void FailSaveOf(std::string_view path);  // writes and copies to this file fail
     void RefuseWrites(bool refuse) { refuseWrites_ = refuse; }
+    void RefuseWritesIn(std::string_view folder);  // a folder the user may not write to
 
     // The path with its existing components in their stored case.
     std::string Canonical(std::string_view path) const { return drive_.Resolve(path).windowsPath; }
@@ -46,7 +47,8 @@ private:
     VirtualDrive drive_;
     Observer* observer_ = nullptr;
     bool refuseWrites_ = false;
-    std::unordered_set<std::string> failSaveOf_;  // lower-case canonical names
+    std::unordered_set<std::string> failSaveOf_;      // lower-case canonical names
+    std::unordered_set<std::string> refusedFolders_;  // lower-case canonical names, "\" at the end
 };
 
 }  // namespace simhost

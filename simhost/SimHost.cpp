@@ -130,6 +130,10 @@ void SimHost::FailSaveOf(const std::string& fullFileName) {
     state_->fileSystem.FailSaveOf(fullFileName);
 }
 
+void SimHost::RefuseWritesIn(const std::string& folder) {
+    state_->fileSystem.RefuseWritesIn(folder);
+}
+
 void SimHost::RefuseWrites(bool refuse) {
     state_->fileSystem.RefuseWrites(refuse);
 }

@@ -72,6 +72,7 @@ public:
     // --- faults
     void FailSaveOf(const std::string& fullFileName);  // saving this file fails
     void RefuseWrites(bool refuse);                    // the disk refuses every write
+    void RefuseWritesIn(const std::string& folder);    // writes into this folder are refused
 
     // --- what tests and the transcript read
     bool InteractionRunning() const;

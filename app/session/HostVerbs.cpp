@@ -81,16 +81,6 @@ void SetEditMode(Session& s, const Args& args) {
     if (args.Is(0, "in-place")) s.Host().SetEditMode(simhost::EditMode::InPlace, args.Text(1));
 }
 
-// The open document of that name, compared as the host's file system does: without case.
-host::DocumentPtr OpenDocument(Session& s, const std::string& fullFileName) {
-    auto documents = s.Host().Application()->Documents();
-    for (std::int32_t i = 1; i <= documents->Count(); ++i) {
-        auto document = documents->Item(i);
-        if (support::LCase(document->FullFileName()) == support::LCase(fullFileName)) return document;
-    }
-    throw ScriptError("no open document " + fullFileName);
-}
-
 void CheckOptionalWord(const Args& args, std::size_t i, std::string_view word) {
     if (args.Count() > i && !args.Is(i, word)) args.Fail("the only option is " + std::string(word));
 }
@@ -132,7 +122,7 @@ void AddHostVerbs(std::vector<Verb>& verbs) {
         {"activate", "activate PATH", 1, 1, [](Session& s, const Args& a) { s.Host().Activate(a.Text(0)); }});
     verbs.push_back(
         {"close-document", "close-document PATH [skip-save]", 1, 2,
-         [](Session& s, const Args& a) { OpenDocument(s, a.Text(0))->Close(a.Is(1, "skip-save")); },
+         [](Session& s, const Args& a) { s.LoadedDocument(a.Text(0))->Close(a.Is(1, "skip-save")); },
          [](const Args& a) { CheckOptionalWord(a, 1, "skip-save"); }});
     verbs.push_back({"close-all", "close-all", 0, 0, [](Session& s, const Args&) { s.Host().CloseAll(); }});
     verbs.push_back(
@@ -154,6 +144,11 @@ void AddHostVerbs(std::vector<Verb>& verbs) {
 
     verbs.push_back({"fail-save", "fail-save PATH", 1, 1,
                      [](Session& s, const Args& a) { s.Host().FailSaveOf(a.Text(0)); }});
+    verbs.push_back({"refuse-folder", "refuse-folder FOLDER", 1, 1,
+                     [](Session& s, const Args& a) { s.Host().RefuseWritesIn(a.Text(0)); }});
+    verbs.push_back({"read-only", "read-only PATH [on|off]", 1, 2,
+                     [](Session& s, const Args& a) { s.Host().FileSystem().SetReadOnly(a.Text(0), Switch(a, 1)); },
+                     [](const Args& a) { Switch(a, 1); }});
     verbs.push_back({"refuse-writes", "refuse-writes [on|off]", 0, 1,
                      [](Session& s, const Args& a) { s.Host().RefuseWrites(Switch(a, 0)); }, CheckSwitch});
 }

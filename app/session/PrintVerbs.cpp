@@ -7,7 +7,10 @@
 #include "app/session/Session.h"
 #include "app/session/Verb.h"
 #include "host/Application.h"
+#include "host/Codes.h"
 #include "host/Document.h"
+#include "host/Properties.h"
+#include "host/Styles.h"
 #include "ui/Form.h"
 
 namespace session {
@@ -76,6 +79,38 @@ void PrintSettings(Session& s, const Args& args) {
     if (!any) s.Transcript().Write("settings " + args.Text(0) + ": none");
 }
 
+const char* LocationName(std::int32_t location) {
+    return location == host::kLocalStyleLocation     ? "local"
+           : location == host::kLibraryStyleLocation ? "library"
+           : location == host::kBothStyleLocation    ? "both"
+                                                     : "unknown";
+}
+
+template <class Collection>
+void WriteStyles(Session& s, const char* kind, Collection& styles) {
+    for (std::int32_t i = 1; i <= styles.Count(); ++i) {
+        auto style = styles.Item(i);
+        s.Transcript().Write(std::string(kind) + " " + Quote(style->Name()) + " " +
+                             LocationName(style->StyleLocation()) + (style->InUse() ? ", in use" : ""));
+    }
+}
+
+// What the document holds in memory, read through the host's own members.
+void PrintStyles(Session& s, const Args& args) {
+    auto document = s.LoadedDocument(args.Text(0));
+    if (document->DocumentType() == host::kPartDocumentObject) WriteStyles(s, "material", *document->Materials());
+    WriteStyles(s, "render style", *document->RenderStyles());
+}
+
+void PrintPropertySets(Session& s, const Args& args) {
+    auto sets = s.LoadedDocument(args.Text(0))->PropertySets();
+    for (std::int32_t i = 1; i <= sets->Count(); ++i) {
+        auto set = sets->Item(i);
+        s.Transcript().Write("property set " + Quote(set->Name()) + " " + set->InternalName() + ", " +
+                             std::to_string(set->Count()) + " properties");
+    }
+}
+
 }  // namespace
 
 void AddPrintVerbs(std::vector<Verb>& verbs) {
@@ -95,6 +130,8 @@ void AddPrintVerbs(std::vector<Verb>& verbs) {
                          s.Transcript().Write("status-bar " + Quote(s.Host().StatusBar()));
                      }});
     verbs.push_back({"print active", "print active", 0, 0, PrintActive});
+    verbs.push_back({"print styles", "print styles PATH", 1, 1, PrintStyles});
+    verbs.push_back({"print property-sets", "print property-sets PATH", 1, 1, PrintPropertySets});
     verbs.push_back({"print file", "print file PATH", 1, 1, PrintFile});
     verbs.push_back({"print held", "print held", 0, 0, PrintHeld});
     verbs.push_back({"print settings", "print settings SECTION", 1, 1, PrintSettings});

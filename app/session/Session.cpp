@@ -1,5 +1,11 @@
 #include "app/session/Session.h"
 
+#include "support/Text.h"
+
+#include "host/Document.h"
+
+#include "host/Application.h"
+
 #include "addin/clsAppCmd.h"
 #include "app/session/Verb.h"
 #include "support/Error.h"
@@ -88,6 +94,15 @@ ui::Form& Session::LoadedForm(const std::string& name) {
 void Session::ReportScriptError(const ScriptError& error) {
     errors_.push_back(error.Describe());
     transcript_.Write("script error: " + error.Describe());
+}
+
+host::DocumentPtr Session::LoadedDocument(const std::string& fullFileName) {
+    auto documents = host_.Application()->Documents();
+    for (std::int32_t i = 1; i <= documents->Count(); ++i) {
+        auto document = documents->Item(i);
+        if (support::LCase(document->FullFileName()) == support::LCase(fullFileName)) return document;
+    }
+    throw ui::headless::ScriptError("no open document " + fullFileName);
 }
 
 }  // namespace session

@@ -41,6 +41,9 @@ public:
     bool PlayNext(const std::string& waitingFor) override;
 
     simhost::SimHost& Host() { return host_; }
+    // The loaded document of that name, compared as the host's file system does: without
+    // case. A ScriptError when none is loaded.
+    std::shared_ptr<host::Document> LoadedDocument(const std::string& fullFileName);
     ui::headless::HeadlessPlatform& Platform() { return platform_; }
     ui::headless::Transcript& Transcript() { return transcript_; }
     settings::IniFileStore& Settings() { return settings_; }

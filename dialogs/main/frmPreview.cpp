@@ -31,6 +31,7 @@ frmPreview::frmPreview(addin::AddinState& state)
     TW_ON(cmdMultThumbnail, Click);
     TW_ON(cmdThumbnailTop, Click);
     TW_ON(cmdChgBrowser, Click);
+    TW_ON(cmdPurge, Click);
     TW_ON(cmdCancel, Click);
     TW_ON_MENU(mnoOrient);
     TW_ON_MENU(mnuLock);
@@ -40,7 +41,6 @@ frmPreview::frmPreview(addin::AddinState& state)
     TW_ON_MENU(mnuSaveAsReplace);
     TW_ON_MENU(mnuAutoUpdate);
     TW_ON_MENU(mnuAbout);
-    // "Purge Styles" has no handler yet: the style purge is a tool still to come.
 }
 
 frmPreview::~frmPreview() {

@@ -80,6 +80,7 @@ private:
     void cmdClone_Click();
     void cmdPackNLink_Click();
     void mnuSaveAsReplace_Click();
+    void cmdPurge_Click();
     void cmdOpenIDW_Click();
     void cmdTopIDW_Click();
     template <class Dialog>

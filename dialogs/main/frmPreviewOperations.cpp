@@ -15,6 +15,7 @@
 #include "host/Codes.h"
 #include "host/Component.h"
 #include "host/Document.h"
+#include "purge/frmPurge.h"
 
 namespace dialogs {
 
@@ -169,6 +170,10 @@ void frmPreview::cmdPackNLink_Click() {
 
 void frmPreview::mnuSaveAsReplace_Click() {
     ShowToolDialog<copy::frmSaveAsReplace>();
+}
+
+void frmPreview::cmdPurge_Click() {
+    ShowToolDialog<purge::frmPurge>();
 }
 
 void frmPreview::cmdOpenIDW_Click() {
