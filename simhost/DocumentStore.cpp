@@ -56,8 +56,53 @@ void DocumentStore::Register(const SimDocumentPtr& doc) {
     if (!doc->FullFileName().empty()) byName_[Key(doc->FullFileName())] = doc.get();
 }
 
+// A document being read while its references load, children first.
+struct DocumentStore::PendingLoad {
+    std::string name;
+    std::string key;
+    DocData data;
+    std::vector<FileRef*> refs;  // into data, which stays put: the frame is never moved
+    std::size_t next = 0;
+};
+
+// The tree is loaded depth-first with a stack of its own, not on the call stack, so that
+// an assembly nested thousands of levels deep loads like any other.
 SimDocumentPtr DocumentStore::LoadTree(const std::string& fullFileName, std::vector<SimDocumentPtr>& added,
                                        std::unordered_set<std::string>& loading) {
+    std::vector<std::unique_ptr<PendingLoad>> stack;
+    SimDocumentPtr loaded = Begin(fullFileName, stack, loading);
+    while (!stack.empty()) {
+        PendingLoad& top = *stack.back();
+        if (top.next < top.refs.size()) {
+            FileRef& ref = *top.refs[top.next];
+            bool found = false;
+            try {
+                found = state_.fileSystem.FileExists(ref.file);
+            } catch (const Error&) {  // not a path, or a drive that is not mapped
+            }
+            if (!found)
+                throw Error(errors::kFileNotFound,
+                            top.name + ": cannot find the referenced file " + ref.file);
+            if (auto doc = Begin(ref.file, stack, loading)) Attach(top, doc);
+            continue;
+        }
+        loading.erase(top.key);
+        auto doc = std::make_shared<SimDocument>(state_, top.name, std::move(top.data));
+        ForEachRef(doc->Data(), [&](const FileRef& ref) { ++ref.doc->session.referrers; });
+        doc->NameUnnamedOccurrences();
+        Register(doc);
+        added.push_back(doc);
+        stack.pop_back();
+        if (stack.empty()) return doc;
+        Attach(*stack.back(), doc);
+    }
+    return loaded;
+}
+
+// The document already loaded, or null after reading the file and pushing it to load.
+SimDocumentPtr DocumentStore::Begin(const std::string& fullFileName,
+                                    std::vector<std::unique_ptr<PendingLoad>>& stack,
+                                    std::unordered_set<std::string>& loading) {
     auto resolved = state_.fileSystem.Drive().Resolve(fullFileName);
     const std::string& name = resolved.windowsPath;
     if (!resolved.exists || resolved.isFolder) throw Error(errors::kFileNotFound, "File not found: " + name);
@@ -65,7 +110,11 @@ SimDocumentPtr DocumentStore::LoadTree(const std::string& fullFileName, std::vec
     std::string key = Key(name);
     if (!loading.insert(key).second) throw Error(errors::kFail, name + ": the file references itself");
 
-    DocData data = format::Read(state_.fileSystem.ReadText(name), name);
+    auto pending = std::make_unique<PendingLoad>();
+    pending->name = name;
+    pending->key = key;
+    pending->data = format::Read(state_.fileSystem.ReadText(name), name);
+    const DocData& data = pending->data;
     if (winpath::Extension(name) != ExtensionOf(data.kind))
         throw Error(errors::kFail, name + ": the file holds a " + KindName(data.kind) +
                                        ", whose name ends in " + ExtensionOf(data.kind));
@@ -73,29 +122,19 @@ SimDocumentPtr DocumentStore::LoadTree(const std::string& fullFileName, std::vec
         throw Error(errors::kFail, name + ": saved by release " + std::to_string(data.savedBy) +
                                        ", newer than this host (" + std::to_string(state_.softwareVersion) +
                                        ")");
-    ForEachRef(data, [&](FileRef& ref) {
-        bool found = false;
-        try {
-            found = state_.fileSystem.FileExists(ref.file);
-        } catch (const Error&) {  // not a path, or a drive that is not mapped
-        }
-        if (!found)
-            throw Error(errors::kFileNotFound, name + ": cannot find the referenced file " + ref.file);
-        ref.doc = LoadTree(ref.file, added, loading);
-        if (ref.doc->Data().kind == DocKind::Drawing)
-            throw Error(errors::kFail, name + ": references the drawing " + ref.doc->FullFileName());
-        if (data.kind == DocKind::Assembly && ref.doc->Data().kind == DocKind::Presentation)
-            throw Error(errors::kFail,
-                        name + ": an assembly cannot hold the presentation " + ref.doc->FullFileName());
-    });
-    loading.erase(key);
+    ForEachRef(pending->data, [&](FileRef& ref) { pending->refs.push_back(&ref); });
+    stack.push_back(std::move(pending));
+    return nullptr;
+}
 
-    auto doc = std::make_shared<SimDocument>(state_, name, std::move(data));
-    ForEachRef(doc->Data(), [&](const FileRef& ref) { ++ref.doc->session.referrers; });
-    doc->NameUnnamedOccurrences();
-    Register(doc);
-    added.push_back(doc);
-    return doc;
+void DocumentStore::Attach(PendingLoad& parent, const SimDocumentPtr& doc) {
+    FileRef& ref = *parent.refs[parent.next++];
+    ref.doc = doc;
+    if (doc->Data().kind == DocKind::Drawing)
+        throw Error(errors::kFail, parent.name + ": references the drawing " + doc->FullFileName());
+    if (parent.data.kind == DocKind::Assembly && doc->Data().kind == DocKind::Presentation)
+        throw Error(errors::kFail,
+                    parent.name + ": an assembly cannot hold the presentation " + doc->FullFileName());
 }
 
 // All or nothing: a file of the tree that cannot be read leaves nothing of it loaded.

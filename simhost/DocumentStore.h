@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -48,8 +49,12 @@ public:
 
 private:
     SimDocumentPtr Load(const std::string& fullFileName);
+    struct PendingLoad;
     SimDocumentPtr LoadTree(const std::string& fullFileName, std::vector<SimDocumentPtr>& added,
                             std::unordered_set<std::string>& loading);
+    SimDocumentPtr Begin(const std::string& fullFileName, std::vector<std::unique_ptr<PendingLoad>>& stack,
+                         std::unordered_set<std::string>& loading);
+    void Attach(PendingLoad& parent, const SimDocumentPtr& doc);
     void Register(const SimDocumentPtr& doc);
     void Unload(SimDocument& doc);
     void Compact();
