@@ -245,16 +245,27 @@ void DocumentStore::CloseAll() {
     state_.editPath.clear();
 }
 
-void DocumentStore::Unload(SimDocument& doc) {
-    doc.session.loaded = false;
-    doc.session.explicitOpen = false;
-    needsCompact_ = true;
-    if (!doc.FullFileName().empty()) {
-        auto it = byName_.find(Key(doc.FullFileName()));
-        if (it != byName_.end() && it->second == &doc) byName_.erase(it);
+// A document dropped may leave the documents it holds unreferenced in turn; they go with
+// it, from a list rather than by recursion, however deep the tree.
+void DocumentStore::Unload(SimDocument& first) {
+    std::vector<SimDocument*> dropping{&first};
+    while (!dropping.empty()) {
+        SimDocument& doc = *dropping.back();
+        dropping.pop_back();
+        doc.session.loaded = false;
+        doc.session.explicitOpen = false;
+        needsCompact_ = true;
+        if (!doc.FullFileName().empty()) {
+            auto it = byName_.find(Key(doc.FullFileName()));
+            if (it != byName_.end() && it->second == &doc) byName_.erase(it);
+        }
+        std::erase(shown_, &doc);
+        ForEachRef(doc.Data(), [&](const FileRef& ref) {
+            if (--ref.doc->session.referrers == 0 && !ref.doc->session.explicitOpen &&
+                ref.doc->session.loaded)
+                dropping.push_back(ref.doc.get());
+        });
     }
-    std::erase(shown_, &doc);
-    ForEachRef(doc.Data(), [&](const FileRef& ref) { DropReferrer(ref.doc); });
 }
 
 void DocumentStore::AddReferrer(const SimDocumentPtr& doc) {

@@ -17,6 +17,31 @@ namespace errors = support::errors;
 
 namespace simhost {
 
+namespace {
+
+// Moves out every document this data holds.
+void TakeReferences(DocData& data, std::vector<SimDocumentPtr>& out) {
+    for (auto& occ : data.occurrences)
+        if (occ.ref.doc) out.push_back(std::move(occ.ref.doc));
+    for (auto& model : data.models)
+        if (model.doc) out.push_back(std::move(model.doc));
+}
+
+}  // namespace
+
+// The documents only this one held go with it, each emptied of its own references before
+// it goes: releasing an assembly nested thousands of levels deep would otherwise run one
+// destructor inside the other, level by level.
+SimDocument::~SimDocument() {
+    std::vector<SimDocumentPtr> orphans;
+    TakeReferences(data_, orphans);
+    while (!orphans.empty()) {
+        SimDocumentPtr doc = std::move(orphans.back());
+        orphans.pop_back();
+        if (doc.use_count() == 1) TakeReferences(doc->data_, orphans);
+    }
+}
+
 SimDocument::SimDocument(SimState& state, std::string fullFileName, DocData data)
     : state_(state), fullFileName_(std::move(fullFileName)), data_(std::move(data)) {}
 

@@ -20,6 +20,7 @@ class SimComponentDefinition;
 class SimDocument final : public host::Document, public std::enable_shared_from_this<SimDocument> {
 public:
     SimDocument(SimState& state, std::string fullFileName, DocData data);
+    ~SimDocument() override;
 
     // What the session knows about the document besides its data; kept by DocumentStore.
     struct Session {
