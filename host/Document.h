@@ -37,6 +37,34 @@ public:
     using Collection<RenderStyle>::Item;
 };
 
+// A drawing's text box: its formatted text carries a field for each property it shows,
+// such as <Property FormatID='{...}' PropertyID='5'>TITLE</Property>.
+class TextBox {
+public:
+    virtual ~TextBox() = default;
+    virtual std::string FormattedText() const = 0;
+};
+
+class DrawingSketch {
+public:
+    virtual ~DrawingSketch() = default;
+    virtual std::shared_ptr<Collection<TextBox>> TextBoxes() = 0;
+};
+
+class TitleBlockDefinition {
+public:
+    virtual ~TitleBlockDefinition() = default;
+    virtual std::string Name() const = 0;
+    virtual std::shared_ptr<DrawingSketch> Sketch() = 0;
+};
+
+class DrawingSettings {
+public:
+    virtual ~DrawingSettings() = default;
+    virtual bool DeferUpdates() const = 0;
+    virtual void SetDeferUpdates(bool defer) = 0;
+};
+
 class Document : public Object {
 public:
     virtual std::string FullFileName() const = 0;  // "" until saved
@@ -72,6 +100,10 @@ public:
     virtual std::shared_ptr<host::RenderStyles> RenderStyles() = 0;
     virtual std::shared_ptr<Material> ActiveMaterial() = 0;
     virtual std::shared_ptr<RenderStyle> ActiveRenderStyle() = 0;
+
+    // Drawing documents only; the call fails on other documents.
+    virtual std::shared_ptr<host::DrawingSettings> DrawingSettings() = 0;
+    virtual std::shared_ptr<Collection<TitleBlockDefinition>> TitleBlockDefinitions() = 0;
 };
 
 class Documents {

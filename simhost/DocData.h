@@ -63,6 +63,12 @@ struct RenderStyleData {
     std::int32_t location = host::kLocalStyleLocation;
 };
 
+// A title block definition: the formatted text of each text box of its sketch.
+struct TitleBlockData {
+    std::string name;
+    std::vector<std::string> textBoxes;
+};
+
 struct OccurrenceData {
     std::int64_t uid = 0;  // stable within the document for the session; not stored
     std::string name;
@@ -101,6 +107,10 @@ struct DocData {
 
     // Drawings and presentations: the models they show.
     std::vector<FileRef> models;
+
+    // Drawings.
+    bool deferUpdates = false;
+    std::vector<TitleBlockData> titleBlocks;
 };
 
 // A document holding the four standard sets and nothing else.

@@ -43,6 +43,7 @@ private:
     void Materials(const Json& v, DocData& data) const;
     void RenderStyles(const Json& v, DocData& data) const;
     void Occurrences(const Json& v, DocData& data) const;
+    void TitleBlocks(const Json& v, DocData& data) const;
     host::Matrix Transform(const Json& v, const std::string& where) const;
 
     std::string file_;
@@ -227,6 +228,21 @@ void Reader::Materials(const Json& v, DocData& data) const {
     }
 }
 
+void Reader::TitleBlocks(const Json& v, DocData& data) const {
+    int n = 0;
+    for (const auto& entry : AnArray(v, "titleBlocks")) {
+        std::string where = "title block " + std::to_string(++n);
+        OnlyFields(AnObject(entry, where), where, {"name", "textBoxes"});
+        if (!entry.contains("name")) Fail(where, "needs \"name\"");
+        TitleBlockData block;
+        block.name = AString(entry["name"], where + "/name");
+        if (entry.contains("textBoxes"))
+            for (const auto& text : AnArray(entry["textBoxes"], where + "/textBoxes"))
+                block.textBoxes.push_back(AString(text, where + "/textBoxes"));
+        data.titleBlocks.push_back(std::move(block));
+    }
+}
+
 void Reader::RenderStyles(const Json& v, DocData& data) const {
     std::set<std::string> seen;
     int n = 0;
@@ -312,6 +328,12 @@ DocData Reader::Document(std::string_view text) {
                         "disabledCommandTypes", "massUnits", "properties", "customPropertySets", "attributes",
                         "occurrences"});
             break;
+        case DocKind::Drawing:
+            OnlyFields(doc, "",
+                       {"type", "savedBy", "thumbnail", "displayName", "reservedBy", "modifiable",
+                        "disabledCommandTypes", "properties", "customPropertySets", "models", "deferUpdates",
+                        "titleBlocks"});
+            break;
         default:
             OnlyFields(doc, "",
                        {"type", "savedBy", "thumbnail", "displayName", "reservedBy", "modifiable",
@@ -350,6 +372,8 @@ DocData Reader::Document(std::string_view text) {
     if (doc.contains("models"))
         for (const auto& m : AnArray(doc["models"], "models"))
             data.models.push_back({AString(m, "models"), nullptr});
+    if (doc.contains("deferUpdates")) data.deferUpdates = ABool(doc["deferUpdates"], "deferUpdates");
+    if (doc.contains("titleBlocks")) TitleBlocks(doc["titleBlocks"], data);
     return data;
 }
 

@@ -144,6 +144,18 @@ std::string Write(const DocData& data) {
         for (const auto& m : data.models) list.push_back(m.Name());
         doc["models"] = list;
     }
+    if (data.kind == DocKind::Drawing) {
+        if (data.deferUpdates) doc["deferUpdates"] = true;
+        if (!data.titleBlocks.empty()) {
+            Json list = Json::array();
+            for (const auto& block : data.titleBlocks) {
+                Json entry = {{"name", block.name}};
+                if (!block.textBoxes.empty()) entry["textBoxes"] = block.textBoxes;
+                list.push_back(entry);
+            }
+            doc["titleBlocks"] = list;
+        }
+    }
     return doc.dump(2) + "\n";
 }
 

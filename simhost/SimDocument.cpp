@@ -5,6 +5,7 @@
 
 #include "simhost/HostNames.h"
 #include "simhost/SimComponent.h"
+#include "simhost/SimDrawing.h"
 #include "simhost/SimProperties.h"
 #include "simhost/SimState.h"
 #include "simhost/SimStyles.h"
@@ -379,6 +380,22 @@ std::shared_ptr<host::RenderStyle> SimDocument::ActiveRenderStyle() {
         throw Error(errors::kFail,
                     DisplayName() + ": the render style \"" + name + "\" is not defined in it");
     return std::make_shared<SimRenderStyle>(shared_from_this(), name);
+}
+
+std::shared_ptr<host::DrawingSettings> SimDocument::DrawingSettings() {
+    RequireDrawing("DrawingSettings");
+    return std::make_shared<SimDrawingSettings>(shared_from_this());
+}
+
+std::shared_ptr<host::Collection<host::TitleBlockDefinition>> SimDocument::TitleBlockDefinitions() {
+    RequireDrawing("TitleBlockDefinitions");
+    return std::make_shared<SimTitleBlockDefinitions>(shared_from_this());
+}
+
+void SimDocument::RequireDrawing(const char* member) const {
+    if (data_.kind != DocKind::Drawing)
+        throw Error(errors::kFail, std::string(member) + " is only available on a drawing; " + DisplayName() +
+                                       " is a " + KindName(data_.kind));
 }
 
 }  // namespace simhost

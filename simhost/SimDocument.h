@@ -89,9 +89,12 @@ public:
     std::shared_ptr<host::RenderStyles> RenderStyles() override;
     std::shared_ptr<host::Material> ActiveMaterial() override;
     std::shared_ptr<host::RenderStyle> ActiveRenderStyle() override;
+    std::shared_ptr<host::DrawingSettings> DrawingSettings() override;
+    std::shared_ptr<host::Collection<host::TitleBlockDefinition>> TitleBlockDefinitions() override;
 
 private:
     void RequirePart(const char* member) const;
+    void RequireDrawing(const char* member) const;
     void RequireAssembly(const char* member) const;
     OccurrenceData& MutableOccurrence(std::int64_t uid);
     void Reindex() const;
