@@ -5,6 +5,7 @@
 #include "host/Application.h"
 #include "host/Document.h"
 #include "host/FileSystem.h"
+#include "properties/table/EMatrixSet.h"
 #include "purge/walk/StylePurge.h"
 #include "support/Error.h"
 
@@ -58,7 +59,7 @@ bool PurgeWalk::PurgeDocument(host::Document& document) {
 void PurgeWalk::PurgeReadOnly(host::Document& document, const std::string& name) {
     context_.fileSystem.SetReadOnly(name, false);
     context_.sink.AddLine(std::string(kWasReadOnlyPurged) + "\t" + name);
-    RebuildEMatrix(document);
+    properties::RebuildEMatrixSet(document);
     PurgeStyles(document, context_.app.SoftwareVersionMajor());
     context_.sink.Yield();
 }

@@ -1,17 +1,12 @@
 #include "purge/walk/StylePurge.h"
 
 #include <memory>
-#include <string>
-#include <tuple>
 #include <vector>
 
 #include "host/Codes.h"
 #include "host/Document.h"
-#include "host/Properties.h"
 #include "host/Styles.h"
-#include "properties/table/PropertyTable.h"
 #include "support/Error.h"
-#include "support/Variant.h"
 
 namespace purge {
 
@@ -48,23 +43,6 @@ void DeleteUnused(Collection& collection) {
 }
 
 }  // namespace
-
-void RebuildEMatrix(host::Document& document) {
-    auto sets = document.PropertySets();
-    if (!sets->PropertySetExists(properties::kEMatrixName)) return;
-    auto set = sets->Item(properties::kEMatrixName);
-
-    std::vector<std::tuple<std::string, support::Variant, std::int32_t>> rows;
-    for (std::int32_t i = 1; i <= set->Count(); ++i) {
-        auto property = set->Item(i);
-        rows.emplace_back(property->Name(), property->Value(), property->PropId());
-    }
-    for (std::int32_t i = set->Count(); i >= 1; --i) IgnoringErrors([&] { set->Item(i)->Delete(); });
-    set->Delete();
-
-    auto rebuilt = sets->Add(properties::kEMatrixName, properties::kEMatrixId);
-    for (const auto& [name, value, id] : rows) IgnoringErrors([&] { rebuilt->Add(value, name, id); });
-}
 
 void PurgeStyles(host::Document& document, std::int32_t hostVersion) {
     if (document.DocumentType() == host::kPartDocumentObject || hostVersion >= kMaterialsEverywhereFrom)
