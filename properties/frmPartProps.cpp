@@ -6,6 +6,7 @@
 #include "host/Application.h"
 #include "host/Codes.h"
 #include "host/Document.h"
+#include "properties/frmUpdateMatrix.h"
 #include "properties/table/PropertyEdits.h"
 #include "properties/table/PropertyTable.h"
 #include "support/Text.h"
@@ -101,7 +102,9 @@ void frmPartProps::ListBox1_DblClick() {
     bool isPart = target_->DocumentType() == host::kPartDocumentObject;
     if (row == kFileNameRow) {
         SaveCopy();
-    } else if (row == kColorRow || (row >= kFirstEMatrixRow && row <= kLastEMatrixRow)) {
+    } else if (row >= kFirstEMatrixRow && row <= kLastEMatrixRow) {
+        OpenNestedDialog(state_.Dialog<frmUpdateMatrix>());
+    } else if (row == kColorRow) {
         RowWithoutDialogYet();
     } else if (row == kMaterialRow) {
         if (!isPart) {
@@ -118,8 +121,17 @@ void frmPartProps::ListBox1_DblClick() {
     }
 }
 
-// The colour, material, weight and eMatrix dialogs are still to come: their rows open
-// nothing yet and only show the list afresh.
+// The colour, material and weight dialogs are still to come: their rows open nothing
+// yet and only show the list afresh.
+// The nested dialog works on this dialog's document, set as the working document only
+// while it is open, since every other dialog shares it.
+void frmPartProps::OpenNestedDialog(ui::Form& dialog) {
+    state_.workingDocument = target_;
+    dialog.Show(true);
+    state_.workingDocument = nullptr;
+    Refresh();
+}
+
 void frmPartProps::RowWithoutDialogYet() {
     Refresh();
 }

@@ -28,6 +28,7 @@ private:
     void ListBox1_MouseUp(int button);
     void SaveCopy();
     void RowWithoutDialogYet();
+    void OpenNestedDialog(ui::Form& dialog);
     void cmdOpenIDW_Click();
     void cmdCancel_Click();
     void mnuExplore_Click();

@@ -26,7 +26,8 @@ public:
     std::int32_t Count() const override { return static_cast<std::int32_t>(texts_.size()); }
     std::shared_ptr<host::TextBox> Item(std::int32_t index) override {
         if (index < 1 || index > Count())
-            throw Error(errors::kInvalidCall, "The text box index " + std::to_string(index) + " is out of range");
+            throw Error(errors::kInvalidCall,
+                        "The text box index " + std::to_string(index) + " is out of range");
         return std::make_shared<SimTextBox>(texts_[static_cast<std::size_t>(index - 1)]);
     }
 
@@ -49,7 +50,9 @@ class SimTitleBlockDefinition : public host::TitleBlockDefinition {
 public:
     explicit SimTitleBlockDefinition(TitleBlockData data) : data_(std::move(data)) {}
     std::string Name() const override { return data_.name; }
-    std::shared_ptr<host::DrawingSketch> Sketch() override { return std::make_shared<SimSketch>(data_.textBoxes); }
+    std::shared_ptr<host::DrawingSketch> Sketch() override {
+        return std::make_shared<SimSketch>(data_.textBoxes);
+    }
 
 private:
     TitleBlockData data_;
@@ -71,8 +74,10 @@ std::int32_t SimTitleBlockDefinitions::Count() const {
 
 std::shared_ptr<host::TitleBlockDefinition> SimTitleBlockDefinitions::Item(std::int32_t index) {
     if (index < 1 || index > Count())
-        throw Error(errors::kInvalidCall, "The title block index " + std::to_string(index) + " is out of range");
-    return std::make_shared<SimTitleBlockDefinition>(doc_->Data().titleBlocks[static_cast<std::size_t>(index - 1)]);
+        throw Error(errors::kInvalidCall,
+                    "The title block index " + std::to_string(index) + " is out of range");
+    return std::make_shared<SimTitleBlockDefinition>(
+        doc_->Data().titleBlocks[static_cast<std::size_t>(index - 1)]);
 }
 
 }  // namespace simhost

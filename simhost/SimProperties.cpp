@@ -9,6 +9,7 @@
 #include "simhost/SimStyles.h"
 #include "simhost/WinPath.h"
 #include "support/Error.h"
+#include "support/Text.h"
 
 using support::Error;
 using support::Variant;
@@ -75,7 +76,11 @@ std::optional<Variant> AsKind(const Variant& v, catalog::ValueKind kind) {
             if (number) return Variant(support::Currency::FromDouble(v.ToDouble()));
             break;
         case catalog::ValueKind::Date:
+            // Text that reads as a date is taken as that date, as the host's own
+            // conversion does; other text is a type mismatch.
             if (t == T::Date) return v;
+            if (t == T::String)
+                if (auto date = support::ParseDate(*v.As<std::string>())) return Variant(*date);
             break;
         case catalog::ValueKind::Boolean:
             if (t == T::Boolean) return v;

@@ -61,6 +61,7 @@ private:
     void ListBox1_DblClick();
     void SaveCopy(host::Document& shown);
     void RowWithoutDialogYet();
+    void OpenNestedDialog(ui::Form& dialog, const std::shared_ptr<host::Document>& shown);
 
     // frmPreviewOperations.cpp
     void cmdTopLevel_Click();

@@ -5,6 +5,7 @@
 #include "host/Codes.h"
 #include "host/Component.h"
 #include "host/Document.h"
+#include "properties/frmUpdateMatrix.h"
 #include "properties/table/PropertyEdits.h"
 #include "properties/table/PropertyTable.h"
 #include "support/Text.h"
@@ -50,16 +51,28 @@ void frmPreview::ListBox1_DblClick() {
         else
             RowWithoutDialogYet();
     } else if (row >= kFirstEMatrixRow && row <= kLastEMatrixRow) {
-        RowWithoutDialogYet();
+        OpenNestedDialog(state_.Dialog<properties::frmUpdateMatrix>(), shown);
     }
     Refill();
 }
 
-// The colour, material, weight and eMatrix dialogs are still to come: their rows open
+// The colour, material and weight dialogs are still to come: their rows open
 // nothing yet. Picking already stops and starts again around the row, as it will around
 // those modal dialogs, so that a click in the model cannot change the document under them.
 void frmPreview::RowWithoutDialogYet() {
     StopPicking();
+    Refill();
+    TogglePicking();
+}
+
+// The nested dialog works on the shown document, set as the working document only while
+// it is open; picking stops around it so that a click in the model cannot change the
+// document under it.
+void frmPreview::OpenNestedDialog(ui::Form& dialog, const std::shared_ptr<host::Document>& shown) {
+    StopPicking();
+    state_.workingDocument = shown;
+    dialog.Show(true);
+    state_.workingDocument = nullptr;
     Refill();
     TogglePicking();
 }
