@@ -1,11 +1,14 @@
-// The part properties dialog where a transcript would test it poorly: its refusal to open
-// while a command is active, and stored positions that a window cannot take.
+// The property dialogs where a transcript would test them poorly: the part dialog's refusal
+// to open while a command is active, stored positions that a window cannot take, and the
+// eMatrix dialog on documents the drawing command never hands it.
 #include <gtest/gtest.h>
 
 #include "addin/shared/DialogPosition.h"
 #include "addin_state_fixture.h"
 #include "host/Document.h"
+#include "host/Properties.h"
 #include "properties/frmPartProps.h"
+#include "properties/frmUpdateMatrix.h"
 
 namespace {
 
@@ -38,6 +41,38 @@ TEST_F(PartPropsTest, AStoredPositionAWindowCannotTakePlacesTheDialogAtTheDefaul
     EXPECT_EQ(placed("32768"), 0);
     EXPECT_EQ(placed("top"), 0);
     EXPECT_EQ(placed(""), 0);
+}
+
+// The eMatrix dialog is loaded, not shown: loading is where it reads the document.
+class EMatrixTest : public addin_test::AddinStateTest {
+protected:
+    properties::frmUpdateMatrix& LoadOn(const std::string& path) {
+        state->workingDocument = host.Open(path);
+        auto& dialog = state->Dialog<properties::frmUpdateMatrix>();
+        dialog.Load();
+        return dialog;
+    }
+};
+
+TEST_F(EMatrixTest, AnAssemblyWithoutDataShowsItsNameAndTheAssemblyLibrary) {
+    auto& dialog = LoadOn("C:\\Work\\Gearbox.iam");
+    EXPECT_EQ(dialog["txtUniqueFile"].Text(), "Gearbox");
+    EXPECT_EQ(dialog["cboLibrary"].Text(), "0000_ASSEMBLY");
+    EXPECT_NE(out.str().find("Cannot Find C:\\Program Files\\Autodesk\\Applied\\commodity.txt"), std::string::npos);
+}
+
+TEST_F(EMatrixTest, AWrongIdentifierOnADocumentThatCannotChangeIsReportedAndKept) {
+    WriteFile("Work/Library.ipt", R"({"type": "part", "modifiable": false, "customPropertySets": [
+        {"name": "eMatrix", "formatId": "{0C1D2E3F-0000-4000-8000-000000000001}",
+         "properties": {"Library": "Fasteners", "Unique File Name": "LIB-9"}}]})");
+    Answer(ui::headless::Prompt::MsgBox, "OK");  // the commodity list is missing
+    Answer(ui::headless::Prompt::MsgBox, "Yes");
+    auto& dialog = LoadOn("C:\\Work\\Library.ipt");
+    EXPECT_NE(out.str().find("Is not modifiable"), std::string::npos);
+    auto set = state->workingDocument->PropertySets()->Item("eMatrix");
+    EXPECT_EQ(set->InternalName(), "{0C1D2E3F-0000-4000-8000-000000000001}");
+    EXPECT_EQ(dialog["cboLibrary"].Text(), "Fasteners");  // the set still counts as found
+    EXPECT_EQ(dialog["txtUniqueFile"].Text(), "LIB-9");
 }
 
 }  // namespace
