@@ -11,6 +11,7 @@ class Document;
 class ComponentDefinition;
 class ComponentOccurrence;
 class AttributeSets;
+class Material;
 
 class ComponentOccurrences {
 public:
@@ -35,6 +36,9 @@ public:
     // A part's definition has an empty collection; a sub-assembly's has its children.
     virtual std::shared_ptr<ComponentOccurrences> Occurrences() = 0;
     virtual std::shared_ptr<host::MassProperties> MassProperties() = 0;  // throws when unavailable
+    // A part's material; the call fails on other definitions.
+    virtual std::shared_ptr<host::Material> Material() = 0;
+    virtual void SetMaterial(const std::shared_ptr<host::Material>& material) = 0;
     virtual std::shared_ptr<host::AttributeSets> AttributeSets() = 0;
     virtual bool IsiPartMember() const = 0;
     // Turns an iPart member into a normal part (no link to its factory any more).

@@ -29,12 +29,15 @@ class Materials : public Collection<Material> {
 public:
     virtual std::shared_ptr<Material> Item(const std::string& name) = 0;
     using Collection<Material>::Item;
+    // A new material of the document; the host refuses a name that is taken.
+    virtual std::shared_ptr<Material> Add(const std::string& name, double density) = 0;
 };
 
 class RenderStyles : public Collection<RenderStyle> {
 public:
     virtual std::shared_ptr<RenderStyle> Item(const std::string& name) = 0;
     using Collection<RenderStyle>::Item;
+    virtual std::shared_ptr<RenderStyle> Add(const std::string& name) = 0;
 };
 
 // A drawing's text box: its formatted text carries a field for each property it shows,
@@ -100,6 +103,7 @@ public:
     virtual std::shared_ptr<host::RenderStyles> RenderStyles() = 0;
     virtual std::shared_ptr<Material> ActiveMaterial() = 0;
     virtual std::shared_ptr<RenderStyle> ActiveRenderStyle() = 0;
+    virtual void SetActiveRenderStyle(const std::shared_ptr<RenderStyle>& style) = 0;
 
     // Drawing documents only; the call fails on other documents.
     virtual std::shared_ptr<host::DrawingSettings> DrawingSettings() = 0;

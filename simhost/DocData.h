@@ -6,6 +6,7 @@
 
 #include "host/Codes.h"
 #include "host/Object.h"
+#include "host/Styles.h"
 #include "support/Variant.h"
 
 namespace simhost {
@@ -51,16 +52,35 @@ struct StoredAttributeSet {
     std::vector<StoredAttribute> attributes;
 };
 
+// A material's physical values, by the name the file gives each; all but the density
+// are kept as given, in the host's internal units.
+struct MaterialValues {
+    double linearExpansion = 0;
+    double poissonsRatio = 0;
+    double specificHeat = 0;
+    double thermalConductivity = 0;
+    double ultimateTensileStrength = 0;
+    double yieldStrength = 0;
+    double youngsModulus = 0;
+};
+
 struct MaterialData {
     std::string name;
-    double density = 0;  // g/cm^3
+    double density = 0;  // g/cm^3 in the file; the host's Density gives kg/cm^3
     std::string renderStyle;
     std::int32_t location = host::kLocalStyleLocation;
+    MaterialValues values;
 };
 
 struct RenderStyleData {
     std::string name;
     std::int32_t location = host::kLocalStyleLocation;
+    double opacity = 0;
+    double shininess = 0;
+    std::string texture;
+    double textureScale = 0;
+    double textureRotation = 0;
+    host::Rgb ambient, diffuse, specular, emissive;
 };
 
 // A title block definition: the formatted text of each text box of its sketch.

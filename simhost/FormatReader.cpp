@@ -209,7 +209,10 @@ void Reader::Materials(const Json& v, DocData& data) const {
     int n = 0;
     for (const auto& entry : AnArray(v, "materials")) {
         std::string where = "material " + std::to_string(++n);
-        OnlyFields(AnObject(entry, where), where, {"name", "density", "renderStyle", "location"});
+        OnlyFields(
+            AnObject(entry, where), where,
+            {"name", "density", "renderStyle", "location", "linearExpansion", "poissonsRatio", "specificHeat",
+             "thermalConductivity", "ultimateTensileStrength", "yieldStrength", "youngsModulus"});
         if (!entry.contains("name") || !entry.contains("density"))
             Fail(where, "needs \"name\" and \"density\"");
         MaterialData m;
@@ -223,6 +226,16 @@ void Reader::Materials(const Json& v, DocData& data) const {
             if (!code) Fail(where, "location is \"local\", \"library\" or \"both\"");
             m.location = *code;
         }
+        auto value = [&](const char* key, double& out) {
+            if (entry.contains(key)) out = ANumber(entry[key], where + "/" + key);
+        };
+        value("linearExpansion", m.values.linearExpansion);
+        value("poissonsRatio", m.values.poissonsRatio);
+        value("specificHeat", m.values.specificHeat);
+        value("thermalConductivity", m.values.thermalConductivity);
+        value("ultimateTensileStrength", m.values.ultimateTensileStrength);
+        value("yieldStrength", m.values.yieldStrength);
+        value("youngsModulus", m.values.youngsModulus);
         if (!seen.insert(m.name).second) Fail(where, "a second material named " + Quoted(m.name));
         data.materials.push_back(std::move(m));
     }
@@ -248,7 +261,9 @@ void Reader::RenderStyles(const Json& v, DocData& data) const {
     int n = 0;
     for (const auto& entry : AnArray(v, "renderStyles")) {
         std::string where = "render style " + std::to_string(++n);
-        OnlyFields(AnObject(entry, where), where, {"name", "location"});
+        OnlyFields(AnObject(entry, where), where,
+                   {"name", "location", "opacity", "shininess", "texture", "textureScale", "textureRotation",
+                    "ambient", "diffuse", "specular", "emissive"});
         if (!entry.contains("name")) Fail(where, "needs \"name\"");
         RenderStyleData r;
         r.name = AString(entry["name"], where + "/name");
@@ -257,6 +272,29 @@ void Reader::RenderStyles(const Json& v, DocData& data) const {
             if (!code) Fail(where, "location is \"local\", \"library\" or \"both\"");
             r.location = *code;
         }
+        if (entry.contains("opacity")) r.opacity = ANumber(entry["opacity"], where + "/opacity");
+        if (entry.contains("shininess")) r.shininess = ANumber(entry["shininess"], where + "/shininess");
+        if (entry.contains("texture")) r.texture = AString(entry["texture"], where + "/texture");
+        if (entry.contains("textureScale"))
+            r.textureScale = ANumber(entry["textureScale"], where + "/textureScale");
+        if (entry.contains("textureRotation"))
+            r.textureRotation = ANumber(entry["textureRotation"], where + "/textureRotation");
+        auto color = [&](const char* key, host::Rgb& out) {
+            if (!entry.contains(key)) return;
+            const auto& list = AnArray(entry[key], where + "/" + key);
+            if (list.size() != 3) Fail(where, std::string(key) + " is [red, green, blue]");
+            std::uint8_t bytes[3];
+            for (int c = 0; c < 3; ++c) {
+                std::int32_t b = AnInteger(list[c], where + "/" + key);
+                if (b < 0 || b > 255) Fail(where, std::string(key) + " takes values from 0 to 255");
+                bytes[c] = static_cast<std::uint8_t>(b);
+            }
+            out = {bytes[0], bytes[1], bytes[2]};
+        };
+        color("ambient", r.ambient);
+        color("diffuse", r.diffuse);
+        color("specular", r.specular);
+        color("emissive", r.emissive);
         if (!seen.insert(r.name).second) Fail(where, "a second render style named " + Quoted(r.name));
         data.renderStyles.push_back(std::move(r));
     }
@@ -326,7 +364,7 @@ DocData Reader::Document(std::string_view text) {
             OnlyFields(doc, "",
                        {"type", "savedBy", "thumbnail", "displayName", "reservedBy", "modifiable",
                         "disabledCommandTypes", "massUnits", "properties", "customPropertySets", "attributes",
-                        "occurrences"});
+                        "occurrences", "renderStyles"});
             break;
         case DocKind::Drawing:
             OnlyFields(doc, "",

@@ -111,23 +111,47 @@ std::string Write(const DocData& data) {
                 if (!m.renderStyle.empty()) entry["renderStyle"] = m.renderStyle;
                 if (m.location != host::kLocalStyleLocation)
                     entry["location"] = names::StyleLocation(m.location);
+                auto value = [&](const char* key, double v) {
+                    if (v != 0) entry[key] = v;
+                };
+                value("linearExpansion", m.values.linearExpansion);
+                value("poissonsRatio", m.values.poissonsRatio);
+                value("specificHeat", m.values.specificHeat);
+                value("thermalConductivity", m.values.thermalConductivity);
+                value("ultimateTensileStrength", m.values.ultimateTensileStrength);
+                value("yieldStrength", m.values.yieldStrength);
+                value("youngsModulus", m.values.youngsModulus);
                 list.push_back(entry);
             }
             doc["materials"] = list;
         }
-        if (!data.renderStyles.empty()) {
-            Json list = Json::array();
-            for (const auto& r : data.renderStyles) {
-                Json entry = {{"name", r.name}};
-                if (r.location != host::kLocalStyleLocation)
-                    entry["location"] = names::StyleLocation(r.location);
-                list.push_back(entry);
-            }
-            doc["renderStyles"] = list;
-        }
         if (!data.iPartFactory.empty()) doc["iPartFactory"] = data.iPartFactory;
     }
 
+    if ((data.kind == DocKind::Part || data.kind == DocKind::Assembly) && !data.renderStyles.empty()) {
+        Json list = Json::array();
+        for (const auto& r : data.renderStyles) {
+            Json entry = {{"name", r.name}};
+            if (r.location != host::kLocalStyleLocation) entry["location"] = names::StyleLocation(r.location);
+            auto value = [&](const char* key, double v) {
+                if (v != 0) entry[key] = v;
+            };
+            value("opacity", r.opacity);
+            value("shininess", r.shininess);
+            if (!r.texture.empty()) entry["texture"] = r.texture;
+            value("textureScale", r.textureScale);
+            value("textureRotation", r.textureRotation);
+            auto color = [&](const char* key, host::Rgb c) {
+                if (c != host::Rgb{}) entry[key] = {c.red, c.green, c.blue};
+            };
+            color("ambient", r.ambient);
+            color("diffuse", r.diffuse);
+            color("specular", r.specular);
+            color("emissive", r.emissive);
+            list.push_back(entry);
+        }
+        doc["renderStyles"] = list;
+    }
     if (data.kind == DocKind::Assembly && !data.occurrences.empty()) {
         Json list = Json::array();
         for (const auto& occ : data.occurrences) {

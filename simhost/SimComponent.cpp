@@ -193,6 +193,24 @@ std::shared_ptr<host::AttributeSets> SimComponentDefinition::AttributeSets() {
     return std::make_shared<SimAttributeSets>(doc_);
 }
 
+std::shared_ptr<host::Material> SimComponentDefinition::Material() {
+    RequirePartDefinition("Material");
+    return doc_->ActiveMaterial();
+}
+
+void SimComponentDefinition::SetMaterial(const std::shared_ptr<host::Material>& material) {
+    RequirePartDefinition("Material");
+    std::string name = support::Required(material, "material")->Name();
+    if (!styles::FindMaterial(doc_->Data(), name))
+        throw Error(errors::kInvalidArg, "The material \"" + name + "\" is not in " + doc_->DisplayName());
+    if (doc_->Data().material != name) doc_->Edit().material = name;
+}
+
+void SimComponentDefinition::RequirePartDefinition(const char* member) const {
+    if (doc_->Data().kind != DocKind::Part)
+        throw Error(errors::kFail, std::string(member) + " is only available on a part's definition");
+}
+
 bool SimComponentDefinition::IsiPartMember() const {
     return !doc_->Data().iPartFactory.empty();
 }

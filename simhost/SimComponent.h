@@ -73,8 +73,11 @@ public:
     std::shared_ptr<host::AttributeSets> AttributeSets() override;
     bool IsiPartMember() const override;
     void BreakLinkToFactory() override;
+    std::shared_ptr<host::Material> Material() override;
+    void SetMaterial(const std::shared_ptr<host::Material>& material) override;
 
 private:
+    void RequirePartDefinition(const char* member) const;
     SimDocumentPtr doc_;
 };
 

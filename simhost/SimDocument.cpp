@@ -358,9 +358,20 @@ std::shared_ptr<host::Materials> SimDocument::Materials() {
     return std::make_shared<SimMaterials>(shared_from_this());
 }
 
+// Parts and assemblies keep render styles; an assembly's are never in use here.
 std::shared_ptr<host::RenderStyles> SimDocument::RenderStyles() {
-    RequirePart("RenderStyles");
+    if (data_.kind != DocKind::Part && data_.kind != DocKind::Assembly)
+        throw Error(errors::kFail, std::string("RenderStyles is only available on a part or an assembly; ") +
+                                       DisplayName() + " is a " + KindName(data_.kind));
     return std::make_shared<SimRenderStyles>(shared_from_this());
+}
+
+void SimDocument::SetActiveRenderStyle(const std::shared_ptr<host::RenderStyle>& style) {
+    RequirePart("ActiveRenderStyle");
+    std::string name = support::Required(style, "render style")->Name();
+    if (!styles::FindRenderStyle(data_, name))
+        throw Error(errors::kInvalidArg, "The render style \"" + name + "\" is not in " + DisplayName());
+    if (data_.renderStyle != name) Edit().renderStyle = name;
 }
 
 std::shared_ptr<host::Material> SimDocument::ActiveMaterial() {

@@ -89,6 +89,7 @@ public:
     std::shared_ptr<host::RenderStyles> RenderStyles() override;
     std::shared_ptr<host::Material> ActiveMaterial() override;
     std::shared_ptr<host::RenderStyle> ActiveRenderStyle() override;
+    void SetActiveRenderStyle(const std::shared_ptr<host::RenderStyle>& style) override;
     std::shared_ptr<host::DrawingSettings> DrawingSettings() override;
     std::shared_ptr<host::Collection<host::TitleBlockDefinition>> TitleBlockDefinitions() override;
 

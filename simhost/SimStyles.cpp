@@ -47,6 +47,14 @@ const RenderStyleData& SimRenderStyle::Style() const {
     return *r;
 }
 
+// An edit goes through the document, so that it marks it changed and can be undone.
+RenderStyleData& SimRenderStyle::Edit() {
+    Style();
+    for (auto& r : doc_->Edit().renderStyles)
+        if (r.name == name_) return r;
+    Gone(*doc_, "render style", name_);
+}
+
 bool SimRenderStyle::InUse() const {
     Style();
     const DocData& data = doc_->Data();
@@ -73,8 +81,29 @@ const MaterialData& SimMaterial::Data() const {
     return *m;
 }
 
+MaterialData& SimMaterial::Edit() {
+    Data();
+    for (auto& m : doc_->Edit().materials)
+        if (m.name == name_) return m;
+    Gone(*doc_, "material", name_);
+}
+
+// The file keeps g/cm^3; the host speaks kg/cm^3.
 double SimMaterial::Density() const {
-    return Data().density;
+    return Data().density / 1000.0;
+}
+
+void SimMaterial::SetDensity(double value) {
+    if (!(value >= 0)) throw Error(errors::kInvalidArg, "A density must not be negative");
+    Edit().density = value * 1000.0;
+}
+
+void SimMaterial::SetRenderStyle(const std::shared_ptr<host::RenderStyle>& style) {
+    std::string name = style ? style->Name() : std::string();
+    if (!name.empty() && !styles::FindRenderStyle(doc_->Data(), name))
+        throw Error(errors::kInvalidArg,
+                    "The render style \"" + name + "\" is not in " + doc_->DisplayName());
+    Edit().renderStyle = name;
 }
 
 std::shared_ptr<host::RenderStyle> SimMaterial::RenderStyle() {
@@ -113,6 +142,18 @@ std::shared_ptr<host::Material> SimMaterials::Item(const std::string& name) {
     return std::make_shared<SimMaterial>(doc_, name);
 }
 
+std::shared_ptr<host::Material> SimMaterials::Add(const std::string& name, double density) {
+    if (name.empty()) throw Error(errors::kInvalidArg, "A material needs a name");
+    if (styles::FindMaterial(doc_->Data(), name))
+        throw Error(errors::kInvalidArg, "The material \"" + name + "\" already exists");
+    if (!(density >= 0)) throw Error(errors::kInvalidArg, "A density must not be negative");
+    MaterialData m;
+    m.name = name;
+    m.density = density * 1000.0;
+    doc_->Edit().materials.push_back(std::move(m));
+    return std::make_shared<SimMaterial>(doc_, name);
+}
+
 std::int32_t SimRenderStyles::Count() const {
     return static_cast<std::int32_t>(doc_->Data().renderStyles.size());
 }
@@ -126,6 +167,16 @@ std::shared_ptr<host::RenderStyle> SimRenderStyles::Item(std::int32_t index) {
 std::shared_ptr<host::RenderStyle> SimRenderStyles::Item(const std::string& name) {
     if (!styles::FindRenderStyle(doc_->Data(), name))
         throw Error(errors::kInvalidArg, "RenderStyles.Item: no render style named \"" + name + "\"");
+    return std::make_shared<SimRenderStyle>(doc_, name);
+}
+
+std::shared_ptr<host::RenderStyle> SimRenderStyles::Add(const std::string& name) {
+    if (name.empty()) throw Error(errors::kInvalidArg, "A render style needs a name");
+    if (styles::FindRenderStyle(doc_->Data(), name))
+        throw Error(errors::kInvalidArg, "The render style \"" + name + "\" already exists");
+    RenderStyleData r;
+    r.name = name;
+    doc_->Edit().renderStyles.push_back(std::move(r));
     return std::make_shared<SimRenderStyle>(doc_, name);
 }
 

@@ -1,6 +1,7 @@
 #include "simhost/SimUnitsOfMeasure.h"
 
 #include <charconv>
+#include <cmath>
 #include <cstdio>
 
 #include "host/Codes.h"
@@ -55,6 +56,30 @@ std::string SimUnitsOfMeasure::GetStringFromValue(double value, std::int32_t uni
     char buf[64];
     std::snprintf(buf, sizeof buf, "%.3f %s", value / unit.perUnit, unit.name);
     return buf;
+}
+
+// A unit named in text: a mass unit, or a length unit with an optional power ("mm^3").
+std::string SimUnitsOfMeasure::GetStringFromValue(double value, const std::string& unitText) const {
+    std::string_view text = TrimBlanks(unitText);
+    char buf[96];
+    if (auto mass = names::MassUnitCode(text)) {
+        std::snprintf(buf, sizeof buf, "%.3f %s", value / names::KilogramsPer(*mass), names::MassUnit(*mass));
+        return buf;
+    }
+    int power = 1;
+    std::string_view base = text;
+    if (auto caret = text.find('^'); caret != std::string_view::npos) {
+        std::string_view exponent = text.substr(caret + 1);
+        power = exponent == "2" ? 2 : exponent == "3" ? 3 : 0;
+        base = text.substr(0, caret);
+    }
+    for (const auto& u : kLengthUnits)
+        if (power && base == u.name) {
+            std::snprintf(buf, sizeof buf, "%.3f %s", value / std::pow(u.centimetres, power),
+                          std::string(text).c_str());
+            return buf;
+        }
+    throw Error(errors::kInvalidArg, "Unit \"" + unitText + "\" is not supported");
 }
 
 double SimUnitsOfMeasure::GetValueFromExpression(const std::string& expression,

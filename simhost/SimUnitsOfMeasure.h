@@ -15,6 +15,7 @@ class SimUnitsOfMeasure : public host::UnitsOfMeasure {
 public:
     explicit SimUnitsOfMeasure(SimDocumentPtr doc) : doc_(std::move(doc)) {}
     std::string GetStringFromValue(double value, std::int32_t unitsType) const override;
+    std::string GetStringFromValue(double value, const std::string& unitText) const override;
     double GetValueFromExpression(const std::string& expression, std::int32_t unitsType) const override;
     std::string GetStringFromType(std::int32_t unitsType) const override;
     std::int32_t MassUnits() const override;
