@@ -85,6 +85,31 @@ void Control::SetValue(int value) {
         owner_.Dispatch(HandlerKey(name_, EventKind::Click), -1);
 }
 
+bool Control::Selected(int row) const {
+    if (!MultiSelect) return row >= 0 && row == ListIndex;
+    return row >= 0 && static_cast<std::size_t>(row) < selected_.size() &&
+           selected_[static_cast<std::size_t>(row)] && static_cast<std::size_t>(row) < Items.size();
+}
+
+void Control::SetSelected(int row, bool selected) {
+    if (row < 0 || static_cast<std::size_t>(row) >= Items.size()) return;
+    if (!MultiSelect) {
+        if (selected)
+            ListIndex = row;
+        else if (ListIndex == row)
+            ListIndex = -1;
+        return;
+    }
+    if (selected_.size() < Items.size()) selected_.resize(Items.size());
+    selected_[static_cast<std::size_t>(row)] = selected;
+}
+
+int Control::SelectedCount() const {
+    int count = 0;
+    for (std::size_t row = 0; row < Items.size(); ++row) count += Selected(static_cast<int>(row));
+    return count;
+}
+
 bool Control::HasFocus() const {
     return owner_.FocusedControl() == name_;
 }

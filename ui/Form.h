@@ -49,14 +49,21 @@ public:
     std::string Picture;                           // what a picture box shows
     int Left = 0, Top = 0, Width = 0, Height = 0;  // twips
 
-    // List and combo boxes.
+    // List and combo boxes. ListIndex is the row with the focus; in a list that takes
+    // several rows (MultiSelect) each row is selected or not on its own, otherwise the
+    // selected row is the ListIndex.
     std::vector<std::string> Items;
     int ListIndex = -1;
+    bool MultiSelect = false;
     void Clear() {
         Items.clear();
         ListIndex = -1;
+        selected_.clear();
     }
     void AddItem(const std::string& item) { Items.push_back(item); }
+    bool Selected(int row) const;
+    void SetSelected(int row, bool selected);
+    int SelectedCount() const;
 
     bool HasFocus() const;
     void SetFocus();
@@ -67,6 +74,7 @@ private:
     ControlKind kind_;
     std::string caption_;
     int value_ = 0;
+    std::vector<bool> selected_;  // MultiSelect lists only
 };
 
 // A menu item, or one element of a menu item array (Index >= 0).

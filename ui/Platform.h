@@ -60,6 +60,9 @@ public:
 
     // Starts a program by command line ("exploreR /e, C:\Work\"); windowStyle 1 is normal with focus.
     virtual void Shell(const std::string& commandLine, int windowStyle) = 0;
+    // Opens a document or web address with the shell's "Open" verb: the user's own program
+    // for it, the default browser for a web page.
+    virtual void ShellOpen(const std::string& target) = 0;
     // Looks a program up in the registered application paths; "" when unknown.
     virtual std::string ApplicationPath(const std::string& exeName) = 0;
     // Brings the window with this caption to the front; false when there is none.

@@ -32,7 +32,7 @@ std::string DescribeControl(const ui::Form& form, const ui::Control& c) {
         line += " rows " + std::to_string(c.Items.size());
         for (std::size_t i = 0; i < c.Items.size(); ++i)
             line += "\n    [" + std::to_string(i) + "] " + Quote(c.Items[i]) +
-                    (static_cast<int>(i) == c.ListIndex ? " selected" : "");
+                    (c.Selected(static_cast<int>(i)) ? " selected" : "");
     }
     return line;
 }

@@ -121,7 +121,12 @@ void DoubleClick(Session& s, const Args& args) {
     if (args.Count() > 1) {
         // The first click of the two selects the row.
         RequireKind(form, control, {ControlKind::ListBox, ControlKind::ComboBox}, "a list");
-        control.ListIndex = Row(args, 1, control);
+        int row = Row(args, 1, control);
+        // In a list of several selected rows, the click selects this row alone.
+        if (control.MultiSelect)
+            for (int other = 0; other < static_cast<int>(control.Items.size()); ++other)
+                control.SetSelected(other, other == row);
+        control.ListIndex = row;
         form.Raise(target.member, EventKind::Click, target.index);
     }
     form.Raise(target.member, EventKind::DblClick, target.index);
@@ -141,6 +146,8 @@ void Choose(Session& s, const Args& args) {
     auto& control = Reach(form, target.member);
     RequireKind(form, control, {ControlKind::ListBox, ControlKind::ComboBox}, "a list or combo box");
     int row = Row(args, 1, control);
+    // In a list of several selected rows, choosing toggles the row, as a Ctrl+click does.
+    if (control.MultiSelect) control.SetSelected(row, !control.Selected(row));
     control.ListIndex = row;
     // Choosing from a combo box's list sets its text without a Change event.
     if (control.Kind() == ControlKind::ComboBox)

@@ -146,9 +146,10 @@ void AddHostVerbs(std::vector<Verb>& verbs) {
                      [](Session& s, const Args& a) { s.Host().FailSaveOf(a.Text(0)); }});
     verbs.push_back({"refuse-folder", "refuse-folder FOLDER", 1, 1,
                      [](Session& s, const Args& a) { s.Host().RefuseWritesIn(a.Text(0)); }});
-    verbs.push_back({"read-only", "read-only PATH [on|off]", 1, 2,
-                     [](Session& s, const Args& a) { s.Host().FileSystem().SetReadOnly(a.Text(0), Switch(a, 1)); },
-                     [](const Args& a) { Switch(a, 1); }});
+    verbs.push_back(
+        {"read-only", "read-only PATH [on|off]", 1, 2,
+         [](Session& s, const Args& a) { s.Host().FileSystem().SetReadOnly(a.Text(0), Switch(a, 1)); },
+         [](const Args& a) { Switch(a, 1); }});
     verbs.push_back({"refuse-writes", "refuse-writes [on|off]", 0, 1,
                      [](Session& s, const Args& a) { s.Host().RefuseWrites(Switch(a, 0)); }, CheckSwitch});
 }

@@ -98,7 +98,8 @@ void WriteStyles(Session& s, const char* kind, Collection& styles) {
 // What the document holds in memory, read through the host's own members.
 void PrintStyles(Session& s, const Args& args) {
     auto document = s.LoadedDocument(args.Text(0));
-    if (document->DocumentType() == host::kPartDocumentObject) WriteStyles(s, "material", *document->Materials());
+    if (document->DocumentType() == host::kPartDocumentObject)
+        WriteStyles(s, "material", *document->Materials());
     WriteStyles(s, "render style", *document->RenderStyles());
 }
 

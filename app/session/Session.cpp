@@ -1,14 +1,11 @@
 #include "app/session/Session.h"
 
-#include "support/Text.h"
-
-#include "host/Document.h"
-
-#include "host/Application.h"
-
 #include "addin/clsAppCmd.h"
 #include "app/session/Verb.h"
+#include "host/Application.h"
+#include "host/Document.h"
 #include "support/Error.h"
+#include "support/Text.h"
 #include "ui/Form.h"
 
 namespace session {

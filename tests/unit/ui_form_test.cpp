@@ -21,6 +21,7 @@ public:
     std::string OpenFilePrompt(const ui::FileDialogRequest&) override { return ""; }
     std::string BrowseForFolder(std::intptr_t, const std::string&, const std::string&) override { return ""; }
     void Shell(const std::string&, int) override {}
+    void ShellOpen(const std::string&) override {}
     std::string ApplicationPath(const std::string&) override { return ""; }
     bool AppActivate(const std::string&) override { return true; }
     void PopupMenu(ui::Form&, const std::string&) override {}

@@ -101,6 +101,10 @@ void HeadlessPlatform::Shell(const std::string& commandLine, int windowStyle) {
     transcript_.Write("shell " + Quote(commandLine) + " window " + std::to_string(windowStyle));
 }
 
+void HeadlessPlatform::ShellOpen(const std::string& target) {
+    transcript_.Write("shell open " + Quote(target));
+}
+
 std::string HeadlessPlatform::ApplicationPath(const std::string& exeName) {
     auto found = appPaths_.find(support::LCase(exeName));
     return found == appPaths_.end() ? "" : found->second;

@@ -57,6 +57,7 @@ public:
     std::string BrowseForFolder(std::intptr_t ownerWindow, const std::string& prompt,
                                 const std::string& startFolder) override;
     void Shell(const std::string& commandLine, int windowStyle) override;
+    void ShellOpen(const std::string& target) override;
     std::string ApplicationPath(const std::string& exeName) override;
     bool AppActivate(const std::string& caption) override;
     void PopupMenu(Form& form, const std::string& menu) override;
