@@ -6,6 +6,9 @@
 #include "host/Application.h"
 #include "host/Codes.h"
 #include "host/Document.h"
+#include "materials/frmGetColor.h"
+#include "materials/frmGetMaterial.h"
+#include "materials/frmOverrideWeight.h"
 #include "properties/frmUpdateMatrix.h"
 #include "properties/table/PropertyEdits.h"
 #include "properties/table/PropertyTable.h"
@@ -105,34 +108,28 @@ void frmPartProps::ListBox1_DblClick() {
     } else if (row >= kFirstEMatrixRow && row <= kLastEMatrixRow) {
         OpenNestedDialog(state_.Dialog<frmUpdateMatrix>());
     } else if (row == kColorRow) {
-        RowWithoutDialogYet();
+        OpenNestedDialog(state_.Dialog<materials::frmGetColor>());
     } else if (row == kMaterialRow) {
         if (!isPart) {
             state_.platform.MsgBox(kMaterialPartsOnly);
             return;
         }
-        RowWithoutDialogYet();
+        OpenNestedDialog(state_.Dialog<materials::frmGetMaterial>());
     } else if (row == kMassRow) {
         if (!isPart) {
             state_.platform.MsgBox(kWeightPartsOnly);
             return;
         }
-        RowWithoutDialogYet();
+        OpenNestedDialog(state_.Dialog<materials::frmOverrideWeight>());
     }
 }
 
-// The colour, material and weight dialogs are still to come: their rows open nothing
-// yet and only show the list afresh.
 // The nested dialog works on this dialog's document, set as the working document only
 // while it is open, since every other dialog shares it.
 void frmPartProps::OpenNestedDialog(ui::Form& dialog) {
     state_.workingDocument = target_;
     dialog.Show(true);
     state_.workingDocument = nullptr;
-    Refresh();
-}
-
-void frmPartProps::RowWithoutDialogYet() {
     Refresh();
 }
 

@@ -27,7 +27,6 @@ private:
     void ListBox1_DblClick();
     void ListBox1_MouseUp(int button);
     void SaveCopy();
-    void RowWithoutDialogYet();
     void OpenNestedDialog(ui::Form& dialog);
     void cmdOpenIDW_Click();
     void cmdCancel_Click();

@@ -49,13 +49,22 @@ void CheckTarget(const Args& args) {
     ParseTarget(args, 0);
 }
 
+// While a modal form is open the user reaches that form alone: the others wait behind it.
+void RequireNotBehindModal(Session& s, const ui::Form& form) {
+    const ui::Form* modal = s.Platform().TopModalForm();
+    if (modal && modal != &form)
+        throw support::Error(support::errors::kInvalidCall,
+                             "Form " + form.Name() + " is behind the modal form " + modal->Name());
+}
+
 // The user reaches a control only on a form that shows, when the control is visible and
 // enabled; otherwise the action fails as the form would refuse it.
-ui::Control& Reach(ui::Form& form, const std::string& name) {
+ui::Control& Reach(Session& s, ui::Form& form, const std::string& name) {
     auto* control = form.Find(name);
     if (!control) throw ScriptError("form " + form.Name() + " has no control " + name);
     if (!form.Visible())
         throw support::Error(support::errors::kInvalidCall, "Form " + form.Name() + " is not visible");
+    RequireNotBehindModal(s, form);
     if (!control->Enabled || !control->Visible)
         throw support::Error(support::errors::kInvalidCall,
                              "Control " + form.Name() + "." + name + " is not enabled or not visible");
@@ -110,14 +119,14 @@ void CheckRow(const Args& args, std::size_t i) {
 void Click(Session& s, const Args& args) {
     auto target = ParseTarget(args, 0);
     auto& form = s.LoadedForm(target.form);
-    Reach(form, target.member);
+    Reach(s, form, target.member);
     form.Raise(target.member, EventKind::Click, target.index);
 }
 
 void DoubleClick(Session& s, const Args& args) {
     auto target = ParseTarget(args, 0);
     auto& form = s.LoadedForm(target.form);
-    auto& control = Reach(form, target.member);
+    auto& control = Reach(s, form, target.member);
     if (args.Count() > 1) {
         // The first click of the two selects the row.
         RequireKind(form, control, {ControlKind::ListBox, ControlKind::ComboBox}, "a list");
@@ -136,14 +145,14 @@ void DoubleClick(Session& s, const Args& args) {
 void RightClick(Session& s, const Args& args) {
     auto target = ParseTarget(args, 0);
     auto& form = s.LoadedForm(target.form);
-    Reach(form, target.member);
+    Reach(s, form, target.member);
     form.Raise(target.member, EventKind::MouseUp, ui::kRightButton);
 }
 
 void Choose(Session& s, const Args& args) {
     auto target = ParseTarget(args, 0);
     auto& form = s.LoadedForm(target.form);
-    auto& control = Reach(form, target.member);
+    auto& control = Reach(s, form, target.member);
     RequireKind(form, control, {ControlKind::ListBox, ControlKind::ComboBox}, "a list or combo box");
     int row = Row(args, 1, control);
     // In a list of several selected rows, choosing toggles the row, as a Ctrl+click does.
@@ -158,7 +167,7 @@ void Choose(Session& s, const Args& args) {
 void Type(Session& s, const Args& args) {
     auto target = ParseTarget(args, 0);
     auto& form = s.LoadedForm(target.form);
-    auto& control = Reach(form, target.member);
+    auto& control = Reach(s, form, target.member);
     RequireKind(form, control, {ControlKind::TextBox, ControlKind::ComboBox}, "a text or combo box");
     if (control.Locked)
         throw support::Error(support::errors::kInvalidCall,
@@ -170,7 +179,7 @@ void Type(Session& s, const Args& args) {
 void SetCheck(Session& s, const Args& args, bool checked) {
     auto target = ParseTarget(args, 0);
     auto& form = s.LoadedForm(target.form);
-    auto& control = Reach(form, target.member);
+    auto& control = Reach(s, form, target.member);
     RequireKind(form, control, {ControlKind::CheckBox, ControlKind::OptionButton},
                 "a check box or option button");
     if (control.Kind() == ControlKind::OptionButton && !checked)
@@ -184,7 +193,7 @@ void SetCheck(Session& s, const Args& args, bool checked) {
 void Leave(Session& s, const Args& args) {
     auto target = ParseTarget(args, 0);
     auto& form = s.LoadedForm(target.form);
-    auto& control = Reach(form, target.member);
+    auto& control = Reach(s, form, target.member);
     form.Raise(target.member, EventKind::LostFocus, target.index);
     // The focus moves on, unless the handler kept it somewhere.
     if (control.HasFocus()) form.SetFocusTo("");
@@ -192,6 +201,7 @@ void Leave(Session& s, const Args& args) {
 
 void Close(Session& s, const Args& args) {
     auto& form = s.LoadedForm(args.Text(0));
+    RequireNotBehindModal(s, form);
     bool closed = true;
     ui::ReportingErrors(s.Platform(), [&] { closed = form.Unload(); });
     if (!closed) s.Transcript().Write("form " + form.Name() + " stays loaded: QueryUnload cancelled");
@@ -209,6 +219,7 @@ void ClickMenu(Session& s, const Args& args) {
                           (target.index >= 0 ? "(" + std::to_string(target.index) + ")" : ""));
     if (!form.Visible())
         throw support::Error(support::errors::kInvalidCall, "Form " + form.Name() + " is not visible");
+    RequireNotBehindModal(s, form);
     if (!item->Visible)
         throw support::Error(support::errors::kInvalidCall, "Menu " + args.Text(0) + " is not visible");
     form.ClickMenu(target.member, target.index);

@@ -60,7 +60,6 @@ private:
     // frmPreviewRows.cpp
     void ListBox1_DblClick();
     void SaveCopy(host::Document& shown);
-    void RowWithoutDialogYet();
     void OpenNestedDialog(ui::Form& dialog, const std::shared_ptr<host::Document>& shown);
 
     // frmPreviewOperations.cpp

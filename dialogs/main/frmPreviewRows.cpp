@@ -5,6 +5,9 @@
 #include "host/Codes.h"
 #include "host/Component.h"
 #include "host/Document.h"
+#include "materials/frmGetColor.h"
+#include "materials/frmGetMaterial.h"
+#include "materials/frmOverrideWeight.h"
 #include "properties/frmUpdateMatrix.h"
 #include "properties/table/PropertyEdits.h"
 #include "properties/table/PropertyTable.h"
@@ -39,30 +42,21 @@ void frmPreview::ListBox1_DblClick() {
         if (!state_.selectedOccurrence)
             state_.platform.MsgBox(kColorOnTopLevel);
         else
-            RowWithoutDialogYet();
+            OpenNestedDialog(state_.Dialog<materials::frmGetColor>(), shown);
     } else if (row == properties::kMaterialRow) {
         if (!isPart)
             state_.platform.MsgBox(properties::kMaterialPartsOnly);
         else
-            RowWithoutDialogYet();
+            OpenNestedDialog(state_.Dialog<materials::frmGetMaterial>(), shown);
     } else if (row == properties::kMassRow) {
         if (!isPart)
             state_.platform.MsgBox(properties::kWeightPartsOnly);
         else
-            RowWithoutDialogYet();
+            OpenNestedDialog(state_.Dialog<materials::frmOverrideWeight>(), shown);
     } else if (row >= kFirstEMatrixRow && row <= kLastEMatrixRow) {
         OpenNestedDialog(state_.Dialog<properties::frmUpdateMatrix>(), shown);
     }
     Refill();
-}
-
-// The colour, material and weight dialogs are still to come: their rows open
-// nothing yet. Picking already stops and starts again around the row, as it will around
-// those modal dialogs, so that a click in the model cannot change the document under them.
-void frmPreview::RowWithoutDialogYet() {
-    StopPicking();
-    Refill();
-    TogglePicking();
 }
 
 // The nested dialog works on the shown document, set as the working document only while

@@ -170,7 +170,18 @@ void HeadlessPlatform::WaitForInput(const std::string& what) {
 }
 
 void HeadlessPlatform::RunModal(Form& form) {
-    while (form.Loaded() && form.Visible()) WaitForInput("modal form " + form.Name());
+    modal_.push_back(&form);
+    try {
+        while (form.Loaded() && form.Visible()) WaitForInput("modal form " + form.Name());
+    } catch (...) {
+        modal_.pop_back();
+        throw;
+    }
+    modal_.pop_back();
+}
+
+Form* HeadlessPlatform::TopModalForm() const {
+    return modal_.empty() ? nullptr : modal_.back();
 }
 
 void HeadlessPlatform::ReportError(const support::Error& error) {

@@ -47,6 +47,8 @@ public:
     // --- the forms the user can see and reach, in the order they were loaded
     Form* FindForm(const std::string& name) const;
     const std::vector<Form*>& LoadedForms() const { return loaded_; }
+    // The modal form the user is in, the innermost when one opened another; null when none.
+    Form* TopModalForm() const;
 
     // --- Platform
     MsgBoxResult MsgBox(const std::string& prompt, int buttons, const std::string& title) override;
@@ -96,6 +98,7 @@ private:
     std::vector<Scheduled> scheduled_;
     int yields_ = 0;
     std::vector<Form*> loaded_;
+    std::vector<Form*> modal_;  // running modal loops, outermost first
 };
 
 }  // namespace ui::headless
