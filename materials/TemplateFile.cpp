@@ -10,7 +10,8 @@ TemplateFile::TemplateFile(host::Application& app, const std::string& fullFileNa
     auto documents = app.Documents();
     for (std::int32_t i = 1; i <= documents->Count(); ++i) {
         auto open = documents->Item(i);
-        if (!open->FullFileName().empty() && support::LCase(open->FullFileName()) == support::LCase(fullFileName)) {
+        if (!open->FullFileName().empty() &&
+            support::LCase(open->FullFileName()) == support::LCase(fullFileName)) {
             document_ = open;
             openedHere_ = false;
             return;

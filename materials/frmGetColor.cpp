@@ -19,7 +19,6 @@ constexpr const char* kTemplateKey = "ColorsTemplate";
 constexpr const char* kDefaultTemplate = "C:\\Program Files\\Autodesk\\Inventor 7\\Templates\\Standard.ipt";
 constexpr const char* kModelFilter = "Inventor Files (*.ipt;*.iam)|*.ipt;*.iam";
 
-
 }  // namespace
 
 frmGetColor::frmGetColor(addin::AddinState& state)
@@ -99,7 +98,8 @@ void frmGetColor::CloseToHost() {
 
 void frmGetColor::cmdBrowse_Click() {
     auto start = paths::SplitPath((*this)["Text1"].Text());
-    std::string chosen = paths::OpenFilePrompt(state_.platform, kModelFilter, start.directory, start.fileName);
+    std::string chosen =
+        paths::OpenFilePrompt(state_.platform, kModelFilter, start.directory, start.fileName);
     (*this)["Text1"].SetText(chosen);
     if (chosen.empty()) return;
     state_.SaveSetting(kSection, kTemplateKey, chosen);
@@ -181,7 +181,8 @@ void frmGetColor::CopyStyleFromSource(const std::string& name) {
 // order. Both orders are the tools' own.
 void frmGetColor::cmdPurgeColor_Click() {
     if (document_->DocumentType() == host::kPartDocumentObject) {
-        auto answer = state_.platform.MsgBox("Do you want to purge Unused Materials First?", ui::vbYesNoCancel);
+        auto answer =
+            state_.platform.MsgBox("Do you want to purge Unused Materials First?", ui::vbYesNoCancel);
         if (answer == ui::vbCancel) return;
         if (answer == ui::vbYes) DeleteEveryUnused(*document_->Materials());
     }

@@ -26,8 +26,8 @@ constexpr const char* kCannotOpen = "Error opening Template File";
 
 // The edit fields in the order of a MaterialRow; the render style is the combo box.
 constexpr const char* kRowControls[kMaterialFieldCount] = {
-    "txtMaterialName", "txtDensity", "txtLinear", "txtPoissons", "cboRenderStyle",
-    "txtSpecificHeat", "txtThermal", "txtTensile", "txtYeild",   "txtModulus"};
+    "txtMaterialName", "txtDensity", "txtLinear",  "txtPoissons", "cboRenderStyle",
+    "txtSpecificHeat", "txtThermal", "txtTensile", "txtYeild",    "txtModulus"};
 
 template <class Body>
 void IgnoringErrors(Body&& body) {
@@ -36,7 +36,6 @@ void IgnoringErrors(Body&& body) {
     } catch (const support::Error&) {
     }
 }
-
 
 }  // namespace
 
@@ -261,7 +260,8 @@ void frmGetMaterial::LoadSourceTemplate(const std::string& path) {
     auto& document = source->Document();
     auto styles = document.RenderStyles();
     sourceStyleTable_.clear();
-    for (std::int32_t k = 1; k <= styles->Count(); ++k) sourceStyleTable_.push_back(ReadRenderStyleRow(*styles->Item(k)));
+    for (std::int32_t k = 1; k <= styles->Count(); ++k)
+        sourceStyleTable_.push_back(ReadRenderStyleRow(*styles->Item(k)));
     sourceLoaded_ = true;
 
     auto& list = (*this)["lstImport"];
@@ -299,7 +299,8 @@ std::shared_ptr<host::Material> frmGetMaterial::CreateMaterial(const std::string
                                                                const std::vector<MaterialRow>& table) {
     const MaterialRow* row = FindMaterialRow(table, name);
     if (!row) {
-        state_.platform.MsgBox("The material \"" + name + "\" is not in the source template, so it was not imported.");
+        state_.platform.MsgBox("The material \"" + name +
+                               "\" is not in the source template, so it was not imported.");
         return nullptr;
     }
     // Every number is converted before the document is touched: a value that is no number
@@ -317,8 +318,8 @@ std::shared_ptr<host::Material> frmGetMaterial::CreateMaterial(const std::string
     for (std::int32_t i = 1; i <= materials->Count() && !material; ++i)
         if (auto existing = materials->Item(i); existing->Name() == name) material = existing;
     if (material) {
-        if (state_.platform.MsgBox("Style:" + name + "\rAlready exists, do you want to overwrite?", ui::vbYesNo) !=
-            ui::vbYes)
+        if (state_.platform.MsgBox("Style:" + name + "\rAlready exists, do you want to overwrite?",
+                                   ui::vbYesNo) != ui::vbYes)
             return nullptr;
         material->SetDensity(numbers.density);
     } else {
@@ -343,9 +344,10 @@ void frmGetMaterial::ResolveRenderStyle(const std::string& styleName, host::Docu
     const RenderStyleRow* row = FindStyleRow(sourceStyleTable_, styleName);
     if (!row) {
         currentStyle_.reset();
-        state_.platform.MsgBox("The render style \"" + styleName + "\" is neither in " + document.DisplayName() +
-                               (sourceLoaded_ ? " nor in the source template" : " nor in a loaded source template") +
-                               ", so the material keeps the render style it had.");
+        state_.platform.MsgBox(
+            "The render style \"" + styleName + "\" is neither in " + document.DisplayName() +
+            (sourceLoaded_ ? " nor in the source template" : " nor in a loaded source template") +
+            ", so the material keeps the render style it had.");
         return;
     }
     auto style = styles->Add(styleName);

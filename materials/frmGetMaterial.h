@@ -64,7 +64,8 @@ private:
     void LoadSourceTemplate(const std::string& path);
     // The material made or overwritten from the row of `table` named `name`; null when
     // the user declined the overwrite or the row could not be used (said to the user).
-    std::shared_ptr<host::Material> CreateMaterial(const std::string& name, const std::vector<MaterialRow>& table);
+    std::shared_ptr<host::Material> CreateMaterial(const std::string& name,
+                                                   const std::vector<MaterialRow>& table);
     void ResolveRenderStyle(const std::string& styleName, host::Document& document);
     void WriteMaterialToTemplate(const std::string& path, host::Material& material);
 

@@ -76,7 +76,8 @@ void frmOverrideWeight::RefreshWeightDisplay() {
     std::string volumeUnit = units->GetStringFromType(host::kDefaultDisplayLengthUnits) + "^3";
     (*this)["tbxVolume"].SetText(units->GetStringFromValue(volume_, volumeUnit) + "^3");
     (*this)["tbxUOWeight"].SetText(units->GetStringFromType(host::kDefaultDisplayMassUnits));
-    (*this)["tbxCurrentWeight"].SetText(units->GetStringFromValue(mass->Mass(), host::kDefaultDisplayMassUnits));
+    (*this)["tbxCurrentWeight"].SetText(
+        units->GetStringFromValue(mass->Mass(), host::kDefaultDisplayMassUnits));
     (*this)["tbxMaterial"].SetText(definition->Material()->Name());
 }
 
@@ -94,7 +95,7 @@ void frmOverrideWeight::tbxTargetWeight_Change() {
     double mass = 0;
     try {
         mass = document_->UnitsOfMeasure()->GetValueFromExpression((*this)["tbxTargetWeight"].Text(),
-                                                                    host::kDefaultDisplayMassUnits);
+                                                                   host::kDefaultDisplayMassUnits);
     } catch (const support::Error&) {
         (*this)["tbxTargetWeight"].SetFocus();
         return;

@@ -55,11 +55,15 @@ RenderStyleData& SimRenderStyle::Edit() {
     Gone(*doc_, "render style", name_);
 }
 
+// A style the part wears, or that any of its materials refers to, is in use: deleting it
+// would leave a material pointing at nothing.
 bool SimRenderStyle::InUse() const {
     Style();
     const DocData& data = doc_->Data();
-    const MaterialData* active = styles::FindMaterial(data, data.material);
-    return data.renderStyle == name_ || (active && active->renderStyle == name_);
+    if (data.renderStyle == name_) return true;
+    for (const auto& m : data.materials)
+        if (m.renderStyle == name_) return true;
+    return false;
 }
 
 std::int32_t SimRenderStyle::StyleLocation() const {

@@ -15,7 +15,7 @@ const RenderStyleData* FindRenderStyle(const DocData& data, const std::string& n
 std::string ActiveRenderStyleName(const DocData& data);
 }  // namespace styles
 
-// A part's render style, by name. In use: the part's colour or its material's style.
+// A document's render style, by name. In use: the part's colour, or any material's style.
 class SimRenderStyle : public host::RenderStyle {
 public:
     SimRenderStyle(SimDocumentPtr doc, std::string name) : doc_(std::move(doc)), name_(std::move(name)) {}

@@ -11,6 +11,7 @@
 #include "host/Document.h"
 #include "host/Properties.h"
 #include "host/Styles.h"
+#include "support/Text.h"
 #include "ui/Form.h"
 
 namespace session {
@@ -86,21 +87,57 @@ const char* LocationName(std::int32_t location) {
                                                      : "unknown";
 }
 
+std::string Describe(host::Material& m) {
+    std::string line = "material " + Quote(m.Name()) + " " + LocationName(m.StyleLocation()) +
+                       (m.InUse() ? ", in use" : "") + ": density " + support::NumberToText(m.Density());
+    auto value = [&](const char* name, double v) {
+        if (v != 0) line += ", " + std::string(name) + " " + support::NumberToText(v);
+    };
+    value("linear expansion", m.LinearExpansion());
+    value("Poisson's ratio", m.PoissonsRatio());
+    value("specific heat", m.SpecificHeat());
+    value("thermal conductivity", m.ThermalConductivity());
+    value("tensile strength", m.UltimateTensileStrength());
+    value("yield strength", m.YieldStrength());
+    value("Young's modulus", m.YoungsModulus());
+    if (auto style = m.RenderStyle()) line += ", style " + Quote(style->Name());
+    return line;
+}
+
+std::string Describe(host::RenderStyle& r) {
+    std::string line = "render style " + Quote(r.Name()) + " " + LocationName(r.StyleLocation()) +
+                       (r.InUse() ? ", in use" : "");
+    std::string values;
+    auto value = [&](const char* name, double v) {
+        if (v != 0) values += ", " + std::string(name) + " " + support::NumberToText(v);
+    };
+    auto color = [&](const char* name, host::Rgb c) {
+        if (c != host::Rgb{})
+            values += ", " + std::string(name) + " " + std::to_string(c.red) + "," + std::to_string(c.green) +
+                      "," + std::to_string(c.blue);
+    };
+    value("opacity", r.Opacity());
+    value("shininess", r.Shininess());
+    if (!r.TextureFilename().empty()) values += ", texture " + Quote(r.TextureFilename());
+    value("texture scale", r.TextureScale());
+    value("texture rotation", r.TextureRotation());
+    color("ambient", r.GetAmbientColor());
+    color("diffuse", r.GetDiffuseColor());
+    color("specular", r.GetSpecularColor());
+    color("emissive", r.GetEmissiveColor());
+    return values.empty() ? line : line + ":" + values.substr(1);
+}
+
 template <class Collection>
-void WriteStyles(Session& s, const char* kind, Collection& styles) {
-    for (std::int32_t i = 1; i <= styles.Count(); ++i) {
-        auto style = styles.Item(i);
-        s.Transcript().Write(std::string(kind) + " " + Quote(style->Name()) + " " +
-                             LocationName(style->StyleLocation()) + (style->InUse() ? ", in use" : ""));
-    }
+void WriteStyles(Session& s, Collection& styles) {
+    for (std::int32_t i = 1; i <= styles.Count(); ++i) s.Transcript().Write(Describe(*styles.Item(i)));
 }
 
 // What the document holds in memory, read through the host's own members.
 void PrintStyles(Session& s, const Args& args) {
     auto document = s.LoadedDocument(args.Text(0));
-    if (document->DocumentType() == host::kPartDocumentObject)
-        WriteStyles(s, "material", *document->Materials());
-    WriteStyles(s, "render style", *document->RenderStyles());
+    if (document->DocumentType() == host::kPartDocumentObject) WriteStyles(s, *document->Materials());
+    WriteStyles(s, *document->RenderStyles());
 }
 
 void PrintPropertySets(Session& s, const Args& args) {
