@@ -14,15 +14,6 @@ namespace copy {
 using ui::ControlKind;
 using ui::EventKind;
 
-namespace {
-// Marks a pick as waiting for as long as it waits, also when it fails.
-struct PickingScope {
-    explicit PickingScope(bool& flag) : flag(flag) { flag = true; }
-    ~PickingScope() { flag = false; }
-    bool& flag;
-};
-}  // namespace
-
 BaseAssemblyForm::BaseAssemblyForm(addin::AddinState& state, std::string name, std::string caption)
     : ui::Form(state.platform, std::move(name), std::move(caption)), state_(state), select_(state) {
     TW_ON(cmdSelect, Click);
@@ -61,15 +52,12 @@ void BaseAssemblyForm::ShowStatus(const std::string& text) {
 
 void BaseAssemblyForm::SelectAssembly() {
     (*this)["cmdSelect"].Enabled = false;
-    if (picking_) {
+    // A pick that already waits goes on waiting; its own call finishes the job.
+    if (select_.Waiting()) {
         select_.bStillSelecting = addin::kVbTrue;
         return;
     }
-    host::ObjectPtr picked;
-    {
-        PickingScope scope(picking_);
-        picked = select_.Pick(host::kAssemblyOccurrenceFilter);
-    }
+    host::ObjectPtr picked = select_.Pick(host::kAssemblyOccurrenceFilter);
     // Controls are looked up again: the user may have closed and reopened the dialog
     // while the pick waited.
     if (auto occurrence = std::dynamic_pointer_cast<host::ComponentOccurrence>(picked)) {

@@ -51,7 +51,6 @@ private:
     void cmdDone_Click();
 
     addin::clsSelect select_;
-    bool picking_ = false;
 };
 
 }  // namespace copy

@@ -48,7 +48,9 @@ void frmSaveAsReplace::Form_Unload() {
     state_.SaveSetting(kSection, "DialogLeft", std::to_string(Left));
 }
 
+// Clicked again while a pick waits, "Select" leaves that pick to finish.
 void frmSaveAsReplace::cmdSelect_Click() {
+    if (select_.Waiting()) return;
     auto picked = std::dynamic_pointer_cast<host::ComponentOccurrence>(
         select_.Pick(host::kAssemblyLeafOccurrenceFilter));
     if (!picked) {

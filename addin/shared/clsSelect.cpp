@@ -8,6 +8,12 @@ namespace addin {
 host::ObjectPtr clsSelect::Pick(std::int32_t filter) {
     host::ObjectPtr result;
     bStillSelecting = kVbTrue;
+    if (waiting_) return result;
+    struct WaitingScope {
+        bool& flag;
+        explicit WaitingScope(bool& f) : flag(f) { flag = true; }
+        ~WaitingScope() { flag = false; }
+    } waiting(waiting_);
 
     interaction_ = state_.App().CommandManager()->CreateInteractionEvents();
     onTerminate_ = interaction_->OnTerminate().Subscribe([this] { bStillSelecting = kVbFalse; });

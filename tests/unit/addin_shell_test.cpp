@@ -80,6 +80,29 @@ TEST_F(AddinShellTest, BlockingPickReturnsTheFirstOfSeveralOrNothingOnEscape) {
     EXPECT_THROW(select.Pick(host::kAssemblyOccurrenceFilter), ui::headless::ScriptError);
 }
 
+// Clicking "Select" again while a pick waits asks for a pick inside the pick: the inner
+// one must not take over the events the outer one reads after it.
+TEST_F(AddinShellTest, APickAskedForWhileOneWaitsKeepsTheFirstWaiting) {
+    server->Activate(*host.Site(), true);
+    OpenGearbox();
+    addin::clsSelect select(State());
+    bool innerAnswered = false;
+    host::ObjectPtr inner;
+    input.actions.push_back([&] {
+        inner = select.Pick(host::kAssemblyOccurrenceFilter);
+        innerAnswered = true;
+    });
+    input.actions.push_back([&] { host.Pick({"Motor Bracket:1"}); });
+    auto picked =
+        std::dynamic_pointer_cast<host::ComponentOccurrence>(select.Pick(host::kAssemblyOccurrenceFilter));
+    EXPECT_TRUE(innerAnswered);
+    EXPECT_EQ(inner, nullptr);
+    ASSERT_NE(picked, nullptr);
+    EXPECT_EQ(picked->Name(), "Motor Bracket:1");
+    EXPECT_EQ(host.InteractionsCreated(), 1);
+    EXPECT_FALSE(select.Waiting());
+}
+
 TEST_F(AddinShellTest, NonBlockingPickStartsOnceAndReportsEverySelection) {
     server->Activate(*host.Site(), true);
     OpenGearbox();
