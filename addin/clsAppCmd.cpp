@@ -193,7 +193,7 @@ void clsAppCmd::oButtonHandler2_OnClick() {
         return;
     }
     auto editObject = app.ActiveEditObject();
-    if (support::Required(editObject, "active edit object")->Type() != host::kDocumentObject) {
+    if (support::Required(editObject, "active edit object")->Type() != host::kAssemblyDocumentObjectType) {
         state_.platform.MsgBox(kCommandActive);
         return;
     }

@@ -11,8 +11,12 @@ inline constexpr std::int32_t kAssemblyDocumentObject = 12291;
 inline constexpr std::int32_t kDrawingDocumentObject = 12292;
 inline constexpr std::int32_t kPresentationDocumentObject = 12293;
 
-// ObjectTypeEnum: what an object says it is through Type.
-inline constexpr std::int32_t kDocumentObject = 50332160;
+// ObjectTypeEnum: what an object says it is through Type. Only an assembly document
+// answers 50332160; each other kind of document answers a value of its own.
+inline constexpr std::int32_t kPartDocumentObjectType = 50331904;
+inline constexpr std::int32_t kAssemblyDocumentObjectType = 50332160;
+inline constexpr std::int32_t kDrawingDocumentObjectType = 50332416;
+inline constexpr std::int32_t kPresentationDocumentObjectType = 50332672;
 inline constexpr std::int32_t kComponentOccurrenceObject = 67113776;
 inline constexpr std::int32_t kComponentOccurrenceProxyObject = 67113808;
 inline constexpr std::int32_t kPlanarSketchObject = 83886592;

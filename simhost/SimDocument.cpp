@@ -278,7 +278,17 @@ std::shared_ptr<SimComponentDefinition> SimDocument::Definition() {
 // --- host::Document
 
 std::int32_t SimDocument::Type() const {
-    return host::kDocumentObject;
+    switch (data_.kind) {
+        case DocKind::Part:
+            return host::kPartDocumentObjectType;
+        case DocKind::Assembly:
+            return host::kAssemblyDocumentObjectType;
+        case DocKind::Drawing:
+            return host::kDrawingDocumentObjectType;
+        case DocKind::Presentation:
+            return host::kPresentationDocumentObjectType;
+    }
+    return 0;
 }
 
 std::string SimDocument::DisplayName() const {

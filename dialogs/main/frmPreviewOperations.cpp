@@ -122,6 +122,7 @@ void frmPreview::RunThumbnails(const std::shared_ptr<host::Document>& start, boo
     TogglePicking();
 }
 
+// The run stops picking and leaves it stopped: "Select" starts it again.
 void frmPreview::cmdChgBrowser_Click() {
     using browser_names::Mode;
     Mode mode = (*this)["OptionButton2"].Value()   ? Mode::Description
@@ -131,7 +132,6 @@ void frmPreview::cmdChgBrowser_Click() {
     browser_names::BrowserRename(state_, mode)
         .Run((*this)["Check2"].Value() == 1, (*this)["Check1"].Value() == 1, state_.selectedOccurrence);
     Refill();
-    TogglePicking();
 }
 
 void frmPreview::mnuExplorer_Click() {

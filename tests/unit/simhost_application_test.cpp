@@ -100,15 +100,15 @@ TEST_F(ApplicationTest, ActiveEditObjectTellsWhatIsBeingEdited) {
     EXPECT_EQ(app->ActiveEditObject(), nullptr);
     auto top = host.Open("C:\\Work\\Gearbox.iam");
     EXPECT_EQ(app->ActiveEditObject(), top);
-    EXPECT_EQ(app->ActiveEditObject()->Type(), host::kDocumentObject);
+    EXPECT_EQ(app->ActiveEditObject()->Type(), host::kAssemblyDocumentObjectType);
     host.SetEditMode(simhost::EditMode::Sketch);
     EXPECT_EQ(app->ActiveEditObject()->Type(), host::kPlanarSketchObject);
     host.SetEditMode(simhost::EditMode::InPlace, "Housing:1");
-    EXPECT_NE(app->ActiveEditObject()->Type(), host::kDocumentObject);
+    EXPECT_NE(app->ActiveEditObject()->Type(), host::kAssemblyDocumentObjectType);
     EXPECT_EQ(ErrorOf([&] { host.SetEditMode(simhost::EditMode::InPlace, "Nope:1"); }).Number(),
               errors::kFail);
     host.Open("C:\\Work\\Gearbox.iam");  // the document already in front: the edit goes on
-    EXPECT_NE(app->ActiveEditObject()->Type(), host::kDocumentObject);
+    EXPECT_NE(app->ActiveEditObject()->Type(), host::kAssemblyDocumentObjectType);
     auto part = host.Open("C:\\Work\\Spur Gear.ipt");  // showing another document ends the edit
     EXPECT_EQ(app->ActiveEditObject(), part);
     host.Activate("C:\\Work\\Gearbox.iam");

@@ -21,7 +21,7 @@ TEST_F(DocumentsTest, OpenLoadsReferencesAndVisibleOpenMakesActive) {
     // The top, its two sub-assemblies and the seven parts they use, each once.
     EXPECT_EQ(app->Documents()->Count(), 10);
     EXPECT_EQ(top->DocumentType(), host::kAssemblyDocumentObject);
-    EXPECT_EQ(top->Type(), host::kDocumentObject);
+    EXPECT_EQ(top->Type(), host::kAssemblyDocumentObjectType);
     EXPECT_EQ(top->DisplayName(), "Gearbox.iam");
     EXPECT_FALSE(top->Dirty());
 
