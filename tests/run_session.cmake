@@ -13,6 +13,18 @@ execute_process(
   WORKING_DIRECTORY ${SOURCE_DIR}
   OUTPUT_VARIABLE actual ERROR_VARIABLE errors RESULT_VARIABLE rc)
 file(REMOVE $ENV{TARNWELL_SETTINGS})
+# A crash or a sanitizer report fails the test whatever the transcript says.
+foreach(alarm "runtime error:" "AddressSanitizer" "LeakSanitizer" "terminate called" "Segmentation fault")
+  string(FIND "${errors}" "${alarm}" found)
+  if(NOT found EQUAL -1)
+    message(FATAL_ERROR "${SCRIPT} reported \"${alarm}\":\n${errors}")
+  endif()
+endforeach()
+# A run that ends with another status than 0 says so as the transcript's last line, so
+# the expected transcript must state it.
+if(NOT rc EQUAL 0)
+  string(APPEND actual "[exit status ${rc}]\n")
+endif()
 if(NOT EXISTS ${expected_file})
   message(FATAL_ERROR "No expected transcript ${expected_file}. Actual:\n${actual}${errors}")
 endif()

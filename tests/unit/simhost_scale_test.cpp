@@ -1,4 +1,4 @@
-#include <chrono>
+#include <map>
 #include <string>
 
 #include "host/Application.h"
@@ -13,8 +13,10 @@ using ScaleTest = SimHostTest;
 
 // 1 top assembly, 99 sub-assemblies of 200 occurrences over 19 parts each: 1,981 files
 // and 19,899 occurrences. Open, a clone (copy and replace every occurrence, as the
-// renaming walk does), and the final save must stay linear in that work.
-TEST_F(ScaleTest, ALargeTreeOpensClonesAndSavesInLinearTime) {
+// renaming walk does), and the final save write each file a bounded number of times: a
+// part once, an assembly once more when its replaced references are saved. How long it
+// takes is bench/'s to say.
+TEST_F(ScaleTest, ALargeTreeClonesWritingEachFileABoundedNumberOfTimes) {
     constexpr int kSubs = 99, kPartsPerSub = 19, kPlacementsPerPart = 10;
     std::string top = R"({"type": "assembly", "occurrences": [)";
     for (int s = 0; s < kSubs; ++s) {
@@ -34,13 +36,8 @@ TEST_F(ScaleTest, ALargeTreeOpensClonesAndSavesInLinearTime) {
     host.FileSystem().CreateFolder("C:\\Clone");
     auto& files = host.FileSystem();
 
-    auto start = std::chrono::steady_clock::now();
-    auto seconds = [&] {
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    };
     auto doc = host.Open("C:\\Big\\Top.iam");
     EXPECT_EQ(host.Application()->Documents()->Count(), 1 + kSubs + kSubs * kPartsPerSub);
-    double opened = seconds();
 
     auto copyName = [](const std::string& name) {
         return "C:\\Clone\\!New-" + name.substr(name.rfind('\\') + 1);
@@ -65,15 +62,16 @@ TEST_F(ScaleTest, ALargeTreeOpensClonesAndSavesInLinearTime) {
     };
     walk(walk, *copy);
     copy->Save();
-    double cloned = seconds();
     EXPECT_EQ(replaced, kSubs + kSubs * kPartsPerSub * kPlacementsPerPart);
     EXPECT_EQ(files.ListFiles("C:\\Clone").size(), 1u + kSubs + kSubs * kPartsPerSub);
     host.Activate("C:\\Clone\\!New-Top.iam");
     EXPECT_EQ(host.FindOccurrence("!New-Sub7:1/!New-S7P3:10")->Transformation(),
               host::Matrix::Translation(9, 0, 0));
-    RecordProperty("open_seconds", std::to_string(opened));
-    RecordProperty("clone_seconds", std::to_string(cloned - opened));
-    EXPECT_LT(cloned, 30.0);
+    std::map<std::string, int> writes;
+    for (const auto& line : observer.lines)
+        if (line.rfind("written C:\\Clone\\", 0) == 0) ++writes[line.substr(8)];
+    EXPECT_EQ(writes.size(), 1u + kSubs + kSubs * kPartsPerSub);
+    for (const auto& [file, count] : writes) EXPECT_LE(count, file.ends_with(".ipt") ? 1 : 2) << file;
 }
 
 }  // namespace
