@@ -323,7 +323,13 @@ void DocumentStore::WriteFile(SimDocument& doc, const std::string& fullFileName)
     DocData out = doc.Data();
     out.savedBy = state_.softwareVersion;
     if (Active().get() == &doc) out.thumbnail = doc.session.camera;
-    state_.fileSystem.WriteText(fullFileName, format::Write(out));
+    std::string text;
+    try {
+        text = format::Write(out);
+    } catch (const std::exception& e) {  // text is checked where it enters; this only backs that up
+        throw Error(errors::kFail, fullFileName + ": the document cannot be written: " + e.what());
+    }
+    state_.fileSystem.WriteText(fullFileName, text);
 }
 
 // Saves the document and every dirty document it references, the referenced ones first,

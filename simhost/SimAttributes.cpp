@@ -56,6 +56,7 @@ void SimAttribute::SetValue(const Variant& value) {
     const StoredAttribute& current = Existing(*doc_, set_, name_);
     if (value.Type() == VariantType::Empty || value.Type() == VariantType::Object)
         throw Error(errors::kTypeMismatch, "Type mismatch: an attribute takes a plain value");
+    doc_->RequireStorableValue(value);
     if (current.value == value) return;
     FindNamed(FindNamed(doc_->Edit().attributeSets, set_)->attributes, name_)->value = value;
 }
@@ -78,6 +79,8 @@ std::shared_ptr<host::Attribute> SimAttributeSet::Add(const std::string& attribu
     if (NameIsUsed(attributeName))
         throw Error(errors::kInvalidArg,
                     "The attribute \"" + attributeName + "\" already exists in \"" + name_ + "\"");
+    doc_->RequireStorable(attributeName);
+    doc_->RequireStorableValue(value);
     if (attributeName.empty()) throw Error(errors::kInvalidArg, "An attribute needs a name");
     if (!OfValueType(value, valueType))
         throw Error(errors::kTypeMismatch,
@@ -98,6 +101,7 @@ std::shared_ptr<host::AttributeSet> SimAttributeSets::Item(const std::string& se
 
 std::shared_ptr<host::AttributeSet> SimAttributeSets::Add(const std::string& setName) {
     if (setName.empty()) throw Error(errors::kInvalidArg, "An attribute set needs a name");
+    doc_->RequireStorable(setName);
     if (NameIsUsed(setName))
         throw Error(errors::kInvalidArg,
                     "The attribute set \"" + setName + "\" already exists in " + doc_->DisplayName());

@@ -12,6 +12,7 @@
 #include "simhost/SimUnitsOfMeasure.h"
 #include "simhost/WinPath.h"
 #include "support/Error.h"
+#include "support/Text.h"
 
 using support::Error;
 namespace errors = support::errors;
@@ -203,6 +204,7 @@ void SimDocument::RemoveOccurrence(std::int64_t uid) {
 }
 
 void SimDocument::RenameOccurrence(std::int64_t uid, const std::string& name) {
+    RequireStorable(name);
     const OccurrenceData& occ = Occurrence(uid);
     std::string wanted = name.empty() ? FreeDefaultName(occ.ref.doc->BaseNameForOccurrences(), uid) : name;
     if (wanted == occ.name) return;
@@ -297,6 +299,7 @@ std::string SimDocument::DisplayName() const {
 }
 
 void SimDocument::SetDisplayName(const std::string& name) {
+    RequireStorable(name);
     if (name != data_.displayName) Edit().displayName = name;
 }
 
@@ -417,6 +420,16 @@ void SimDocument::RequireDrawing(const char* member) const {
     if (data_.kind != DocKind::Drawing)
         throw Error(errors::kFail, std::string(member) + " is only available on a drawing; " + DisplayName() +
                                        " is a " + KindName(data_.kind));
+}
+
+void SimDocument::RequireStorable(std::string_view text) const {
+    if (support::IsUtf8(text)) return;
+    std::string name = fullFileName_.empty() ? DisplayName() : fullFileName_;
+    throw Error(errors::kInvalidArg, name + ": the text is not UTF-8, so the file cannot hold it");
+}
+
+void SimDocument::RequireStorableValue(const support::Variant& value) const {
+    if (const auto* text = value.As<std::string>()) RequireStorable(*text);
 }
 
 }  // namespace simhost

@@ -40,6 +40,10 @@ public:
     void MarkSaved(std::int32_t savedBy, std::int32_t thumbnail);
     // For the store only: the data without recording a change.
     DocData& Raw() { return data_; }
+    // The file holds UTF-8 text only: other text is refused where it enters, naming the
+    // file, so that no save fails on it later and nothing is half written.
+    void RequireStorable(std::string_view text) const;
+    void RequireStorableValue(const support::Variant& value) const;
     // Gives default names to occurrences a file listed without one (loading only).
     void NameUnnamedOccurrences();
     std::string BaseNameForOccurrences() const;  // "Bracket" for C:\Work\Bracket.ipt
@@ -96,6 +100,7 @@ public:
 private:
     void RequirePart(const char* member) const;
     void RequireDrawing(const char* member) const;
+
     void RequireAssembly(const char* member) const;
     OccurrenceData& MutableOccurrence(std::int64_t uid);
     void Reindex() const;

@@ -131,6 +131,7 @@ void SimProperty::SetValue(const Variant& value) {
     std::string name = Name();
     if (!PlainValue(value))
         throw Error(errors::kTypeMismatch, "Type mismatch: \"" + name + "\" takes no value of this kind");
+    doc_->RequireStorableValue(value);
     if (!HasDefinitions(set)) {  // a custom property takes any plain value
         if (Value() != value) FindStored(doc_->Edit().propertySets[set].properties, propId_)->value = value;
         return;
@@ -234,6 +235,8 @@ std::shared_ptr<host::Property> SimPropertySet::Add(const Variant& value, const 
     if (HasDefinitions(set)) throw Error(errors::kFail, "Properties cannot be added to " + DisplayName());
     if (!PlainValue(value))
         throw Error(errors::kTypeMismatch, "Type mismatch: a property takes a plain value");
+    doc_->RequireStorableValue(value);
+    doc_->RequireStorable(name);
     if (name.empty()) throw Error(errors::kInvalidArg, "A property needs a name");
     const auto& list = doc_->Data().propertySets[set].properties;
     std::int32_t maxId = catalog::kFirstCustomId - 1;
@@ -280,6 +283,7 @@ std::shared_ptr<host::PropertySet> SimPropertySets::Item(const std::string& name
 std::shared_ptr<host::PropertySet> SimPropertySets::Add(const std::string& name,
                                                         const std::string& formatId) {
     if (name.empty()) throw Error(errors::kInvalidArg, "A property set needs a name");
+    doc_->RequireStorable(name);
     if (FindSet(doc_->Data(), name) >= 0 || (!formatId.empty() && FindSet(doc_->Data(), formatId) >= 0))
         throw Error(errors::kInvalidArg, "The property set \"" + name + "\" already exists");
     std::string id = formatId;

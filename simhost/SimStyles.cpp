@@ -57,6 +57,11 @@ RenderStyleData& SimRenderStyle::Edit() {
 
 // A style the part wears, or that any of its materials refers to, is in use: deleting it
 // would leave a material pointing at nothing.
+void SimRenderStyle::SetTextureFilename(const std::string& fileName) {
+    doc_->RequireStorable(fileName);
+    Edit().texture = fileName;
+}
+
 bool SimRenderStyle::InUse() const {
     Style();
     const DocData& data = doc_->Data();
@@ -148,6 +153,7 @@ std::shared_ptr<host::Material> SimMaterials::Item(const std::string& name) {
 
 std::shared_ptr<host::Material> SimMaterials::Add(const std::string& name, double density) {
     if (name.empty()) throw Error(errors::kInvalidArg, "A material needs a name");
+    doc_->RequireStorable(name);
     if (styles::FindMaterial(doc_->Data(), name))
         throw Error(errors::kInvalidArg, "The material \"" + name + "\" already exists");
     if (!(density >= 0)) throw Error(errors::kInvalidArg, "A density must not be negative");
@@ -176,6 +182,7 @@ std::shared_ptr<host::RenderStyle> SimRenderStyles::Item(const std::string& name
 
 std::shared_ptr<host::RenderStyle> SimRenderStyles::Add(const std::string& name) {
     if (name.empty()) throw Error(errors::kInvalidArg, "A render style needs a name");
+    doc_->RequireStorable(name);
     if (styles::FindRenderStyle(doc_->Data(), name))
         throw Error(errors::kInvalidArg, "The render style \"" + name + "\" already exists");
     RenderStyleData r;

@@ -29,7 +29,7 @@ public:
     double Shininess() const override { return Style().shininess; }
     void SetShininess(double value) override { Edit().shininess = value; }
     std::string TextureFilename() const override { return Style().texture; }
-    void SetTextureFilename(const std::string& fileName) override { Edit().texture = fileName; }
+    void SetTextureFilename(const std::string& fileName) override;
     double TextureScale() const override { return Style().textureScale; }
     void SetTextureScale(double value) override { Edit().textureScale = value; }
     double TextureRotation() const override { return Style().textureRotation; }

@@ -18,6 +18,8 @@ std::string Mid(std::string_view s, long start, long length);  // length < 0 is 
 long InStr(std::string_view haystack, std::string_view needle, long start = 1);  // 0 when absent
 long InStrRev(std::string_view haystack, std::string_view needle);
 std::string Trim(std::string_view s);  // spaces only, as the platform does
+// Well-formed UTF-8: no overlong forms, no surrogates, nothing beyond U+10FFFF.
+bool IsUtf8(std::string_view s);
 std::string LTrim(std::string_view s);
 std::string RTrim(std::string_view s);
 std::string UCase(std::string_view s);

@@ -6,26 +6,6 @@ namespace properties {
 
 namespace {
 
-// Well-formed UTF-8: no overlong forms, no surrogates, nothing beyond U+10FFFF.
-bool IsUtf8(std::string_view text) {
-    for (std::size_t i = 0; i < text.size();) {
-        auto c = static_cast<unsigned char>(text[i]);
-        std::size_t extra = c < 0x80 ? 0 : c < 0xC2 ? 9 : c < 0xE0 ? 1 : c < 0xF0 ? 2 : c < 0xF5 ? 3 : 9;
-        if (extra == 9 || i + extra >= text.size() + (extra == 0)) return false;
-        unsigned char low = 0x80, high = 0xBF;  // the second byte's range
-        if (c == 0xE0) low = 0xA0;
-        if (c == 0xED) high = 0x9F;
-        if (c == 0xF0) low = 0x90;
-        if (c == 0xF4) high = 0x8F;
-        for (std::size_t k = 1; k <= extra; ++k) {
-            auto next = static_cast<unsigned char>(text[i + k]);
-            if (next < (k == 1 ? low : 0x80) || next > (k == 1 ? high : 0xBF)) return false;
-        }
-        i += extra + 1;
-    }
-    return true;
-}
-
 void AppendUtf8(std::string& out, char32_t c) {
     if (c < 0x80) {
         out += static_cast<char>(c);
@@ -68,7 +48,7 @@ std::vector<std::string> ReadCommodityEntries(std::string_view fileText) {
     std::string text;
     for (char c : fileText)
         if (c != '\0') text += c;
-    if (!IsUtf8(text)) text = FromWindows1252(text);
+    if (!support::IsUtf8(text)) text = FromWindows1252(text);
 
     std::vector<std::string> entries;
     std::size_t start = 0;

@@ -1,8 +1,12 @@
 #include <nlohmann/json.hpp>
 
+#include <functional>
+#include <vector>
+
 #include "host/Codes.h"
 #include "host/Component.h"
 #include "host/Properties.h"
+#include "host/Styles.h"
 #include "simhost_fixture.h"
 
 namespace simhost_test {
@@ -203,6 +207,35 @@ TEST_F(DocumentsTest, DescribeShowsStateAndValues) {
     std::string disk = host.DescribeDocument("C:\\Work\\Gearbox.idw");
     EXPECT_EQ(disk.substr(0, disk.find('\n')), "C:\\Work\\Gearbox.idw: drawing, on disk");
     EXPECT_NE(disk.find("model: C:\\Work\\Gearbox.iam\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace simhost_test
+
+namespace simhost_test {
+namespace {
+
+// Latin-1 typed into a field is not UTF-8: each way text enters a document refuses it,
+// naming the file, and leaves the document as it was, so that its save cannot fail later.
+TEST_F(DocumentsTest, TextThatIsNotUtf8IsRefusedWhereItEnters) {
+    auto part = host.Open("C:\\Work\\Spur Gear.ipt");
+    const std::string latin1 = "Caf\xe9";
+    auto title = part->PropertySets()->Item("{F29F85E0-4FF9-1068-AB91-08002B27B3D9}")->ItemByPropId(2);
+    std::vector<std::function<void()>> entries = {
+        [&] { title->SetValue(support::Variant(latin1)); },
+        [&] { part->SetDisplayName(latin1); },
+        [&] { part->PropertySets()->Add(latin1, ""); },
+        [&] { part->ComponentDefinition()->AttributeSets()->Add(latin1); },
+        [&] { part->Materials()->Add(latin1, 0.001); },
+        [&] { part->RenderStyles()->Add(latin1); },
+    };
+    for (auto& enter : entries) {
+        auto e = ErrorOf(enter);
+        EXPECT_NE(e.Description().find("C:\\Work\\Spur Gear.ipt"), std::string::npos) << e.Description();
+    }
+    EXPECT_FALSE(part->Dirty());
+    part->SetDisplayName("Caf\xc3\xa9");  // the same word in UTF-8 is taken
+    part->Save();
 }
 
 }  // namespace
