@@ -219,9 +219,11 @@ SimDocumentPtr DocumentStore::Active() const {
     return shown_.empty() ? nullptr : shown_.back()->shared_from_this();
 }
 
+// Closing with saving saves what Save would: the document and every dirty document it
+// references, so that an edit made to a part inside a clean assembly is not lost.
 void DocumentStore::Close(SimDocument& doc, bool skipSave) {
     doc.CheckLoaded();
-    if (!skipSave && doc.Dirty()) Save(doc);
+    if (!skipSave && !DirtyInTree(doc).empty()) Save(doc);
     state_.ReportClosed(doc.FullFileName().empty() ? doc.DisplayName() : doc.FullFileName());
     doc.session.explicitOpen = false;
     if (!shown_.empty() && shown_.back() == &doc) {
@@ -252,6 +254,8 @@ void DocumentStore::Unload(SimDocument& first) {
     while (!dropping.empty()) {
         SimDocument& doc = *dropping.back();
         dropping.pop_back();
+        if (doc.Dirty())
+            state_.ReportDiscarded(doc.FullFileName().empty() ? doc.DisplayName() : doc.FullFileName());
         doc.session.loaded = false;
         doc.session.explicitOpen = false;
         needsCompact_ = true;
@@ -339,19 +343,38 @@ void DocumentStore::Save(SimDocument& doc) {
     if (doc.FullFileName().empty())
         throw Error(errors::kFail,
                     doc.DisplayName() + " has never been saved; it needs a file name (SaveAs)");
-    std::vector<SimDocument*> order;
-    std::unordered_set<SimDocument*> seen;
-    auto visit = [&](auto& self, SimDocument& d) -> void {
-        if (!seen.insert(&d).second) return;
-        ForEachRef(d.Data(), [&](const FileRef& ref) { self(self, *ref.doc); });
-        if (d.Dirty()) order.push_back(&d);
-    };
-    visit(visit, doc);
-    for (SimDocument* d : order) {
+    for (SimDocument* d : DirtyInTree(doc)) {
         CheckSavable(*d);
         WriteFile(*d, d->FullFileName());
         d->MarkSaved(state_.softwareVersion, Active().get() == d ? d->session.camera : d->Data().thumbnail);
     }
+}
+
+// The dirty documents of the tree, those referenced before those that reference them.
+// Walked with a stack of its own: a tree may be deeper than the call stack.
+std::vector<SimDocument*> DocumentStore::DirtyInTree(SimDocument& top) const {
+    std::vector<SimDocument*> order;
+    std::unordered_set<SimDocument*> seen{&top};
+    std::vector<std::pair<SimDocument*, std::vector<SimDocument*>>> stack;
+    auto children = [](SimDocument& d) {
+        std::vector<SimDocument*> out;
+        ForEachRef(d.Data(), [&](const FileRef& ref) { out.push_back(ref.doc.get()); });
+        std::reverse(out.begin(), out.end());
+        return out;
+    };
+    stack.emplace_back(&top, children(top));
+    while (!stack.empty()) {
+        auto& [doc, pending] = stack.back();
+        if (pending.empty()) {
+            if (doc->Dirty()) order.push_back(doc);
+            stack.pop_back();
+            continue;
+        }
+        SimDocument* next = pending.back();
+        pending.pop_back();
+        if (seen.insert(next).second) stack.emplace_back(next, children(*next));
+    }
+    return order;
 }
 
 void DocumentStore::SaveAs(SimDocument& doc, const std::string& fullFileName, bool saveCopyAs) {

@@ -60,6 +60,7 @@ private:
     void Compact();
     void WriteFile(SimDocument& doc, const std::string& fullFileName);
     void CheckSavable(const SimDocument& doc) const;
+    std::vector<SimDocument*> DirtyInTree(SimDocument& top) const;
     std::string Key(const std::string& fullFileName) const;
 
     SimState& state_;

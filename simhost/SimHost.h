@@ -22,6 +22,8 @@ public:
     virtual void StatusBarText(const std::string& text) { (void)text; }
     virtual void DocumentOpened(const std::string& path, bool visible) { (void)path, (void)visible; }
     virtual void DocumentClosed(const std::string& path) { (void)path; }
+    // A document with unsaved changes left memory without being saved: they are gone.
+    virtual void EditsDiscarded(const std::string& path) { (void)path; }
 };
 
 // What the application is editing: the document itself at top level, a sketch, or a

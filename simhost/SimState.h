@@ -49,6 +49,9 @@ public:
     void ReportClosed(const std::string& path) {
         if (observer) observer->DocumentClosed(path);
     }
+    void ReportDiscarded(const std::string& path) {
+        if (observer) observer->EditsDiscarded(path);
+    }
 };
 
 }  // namespace simhost

@@ -28,4 +28,8 @@ void TranscriptObserver::DocumentClosed(const std::string& path) {
     transcript_.Write("document closed " + Quote(path));
 }
 
+void TranscriptObserver::EditsDiscarded(const std::string& path) {
+    transcript_.Write("edits discarded " + ui::headless::Quote(path));
+}
+
 }  // namespace session

@@ -15,6 +15,7 @@ public:
     void StatusBarText(const std::string& text) override;
     void DocumentOpened(const std::string& path, bool visible) override;
     void DocumentClosed(const std::string& path) override;
+    void EditsDiscarded(const std::string& path) override;
 
 private:
     ui::headless::Transcript& transcript_;

@@ -58,7 +58,8 @@ TEST_F(EMatrixTest, AnAssemblyWithoutDataShowsItsNameAndTheAssemblyLibrary) {
     auto& dialog = LoadOn("C:\\Work\\Gearbox.iam");
     EXPECT_EQ(dialog["txtUniqueFile"].Text(), "Gearbox");
     EXPECT_EQ(dialog["cboLibrary"].Text(), "0000_ASSEMBLY");
-    EXPECT_NE(out.str().find("Cannot Find C:\\Program Files\\Autodesk\\Applied\\commodity.txt"), std::string::npos);
+    EXPECT_NE(out.str().find("Cannot Find C:\\Program Files\\Autodesk\\Applied\\commodity.txt"),
+              std::string::npos);
 }
 
 TEST_F(EMatrixTest, AWrongIdentifierOnADocumentThatCannotChangeIsReportedAndKept) {

@@ -24,7 +24,9 @@ public:
 class PurgeWalkTest : public simhost_test::SimHostTest {
 protected:
     RecordingSink sink;
-    purge::PurgeWalk Walk() { return purge::PurgeWalk({*host.Application(), host.FileSystem(), sink, false}); }
+    purge::PurgeWalk Walk() {
+        return purge::PurgeWalk({*host.Application(), host.FileSystem(), sink, false});
+    }
 
     // Deep/L0.iam holds L1.iam, which holds L2.iam ... down to one part.
     void WriteChain(int depth) {
@@ -54,7 +56,8 @@ TEST_F(PurgeWalkTest, StopEndsTheWalkBeforeTheNextDocument) {
     WriteChain(5);
     sink.stopAfter = 2;
     Walk().PurgeTree(host.Open("C:\\Deep\\L0.iam"));
-    EXPECT_EQ(sink.lines, (std::vector<std::string>{"Purged:\tC:\\Deep\\L0.iam", "Purged:\tC:\\Deep\\L1.iam"}));
+    EXPECT_EQ(sink.lines,
+              (std::vector<std::string>{"Purged:\tC:\\Deep\\L0.iam", "Purged:\tC:\\Deep\\L1.iam"}));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
-#include <nlohmann/json.hpp>
-
 #include <functional>
+#include <nlohmann/json.hpp>
 #include <vector>
 
 #include "host/Codes.h"
