@@ -2,13 +2,16 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <random>
 #include <sstream>
+#include <vector>
 
 #include "support/Error.h"
 
 namespace settings {
 
 namespace {
+
 std::string HeaderOf(const std::string& app, const std::string& section) {
     return app + "\\" + section;
 }
@@ -19,11 +22,41 @@ std::string TrimBlanks(const std::string& s) {
     auto e = s.find_last_not_of(" \t\r");
     return s.substr(b, e - b + 1);
 }
+
+std::vector<std::string> ReadLines(const std::filesystem::path& file) {
+    std::vector<std::string> lines;
+    std::ifstream in(file, std::ios::binary);
+    std::string line;
+    while (std::getline(in, line)) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+// The section a line opens, or nothing when it opens none.
+bool IsHeader(const std::string& line, std::string& header) {
+    std::string t = TrimBlanks(line);
+    if (t.size() < 2 || t.front() != '[' || t.back() != ']') return false;
+    header = t.substr(1, t.size() - 2);
+    return true;
+}
+
+// The key a line sets, or nothing: comments and lines without "=" set none.
+bool IsEntry(const std::string& line, std::string& key, std::string& value) {
+    std::string t = TrimBlanks(line);
+    if (t.empty() || t[0] == ';') return false;
+    auto eq = line.find('=');
+    if (eq == std::string::npos) return false;
+    key = TrimBlanks(line.substr(0, eq));
+    value = line.substr(eq + 1);
+    if (!value.empty() && value.back() == '\r') value.pop_back();
+    return !key.empty();
+}
+
 }  // namespace
 
-IniFileStore::IniFileStore(std::filesystem::path file) : file_(std::move(file)) {
-    Load();
-}
+IniFileStore::IniFileStore(std::filesystem::path file) : file_(std::move(file)) {}
 
 std::filesystem::path IniFileStore::DefaultPath() {
     if (const char* p = std::getenv("TARNWELL_SETTINGS"); p && *p) return p;
@@ -33,30 +66,16 @@ std::filesystem::path IniFileStore::DefaultPath() {
     return std::filesystem::path(home ? home : ".") / ".config" / "tarnwell" / "settings.ini";
 }
 
-void IniFileStore::Load() {
-    std::ifstream in(file_);
-    if (!in) return;  // no file yet: every read gives its default
-    std::string line, current;
-    while (std::getline(in, line)) {
-        line = TrimBlanks(line);
-        if (line.empty() || line[0] == ';') continue;
-        if (line.front() == '[' && line.back() == ']') {
-            current = line.substr(1, line.size() - 2);
-            sections_[current];
-            continue;
-        }
-        auto eq = line.find('=');
-        if (eq == std::string::npos || current.empty()) continue;
-        sections_[current][TrimBlanks(line.substr(0, eq))] = line.substr(eq + 1);
-    }
-}
-
+// Read from the file as it is now: another session may have written since.
 std::string IniFileStore::GetSetting(const std::string& app, const std::string& section,
                                      const std::string& key, const std::string& defaultValue) const {
-    auto s = sections_.find(HeaderOf(app, section));
-    if (s == sections_.end()) return defaultValue;
-    auto k = s->second.find(key);
-    return k == s->second.end() ? defaultValue : k->second;
+    const std::string wanted = HeaderOf(app, section);
+    std::string current, k, v, found = defaultValue;
+    for (const auto& line : ReadLines(file_)) {
+        if (IsHeader(line, current)) continue;
+        if (current == wanted && IsEntry(line, k, v) && k == key) found = v;
+    }
+    return found;
 }
 
 void IniFileStore::SaveSetting(const std::string& app, const std::string& section, const std::string& key,
@@ -71,31 +90,59 @@ void IniFileStore::SaveSetting(const std::string& app, const std::string& sectio
                                                                 " " + key +
                                                                 ": the name or value has a "
                                                                 "character the settings file cannot hold");
-    sections_[HeaderOf(app, section)][key] = value;
-    Write();
+    Write(WithSetting(ReadLines(file_), HeaderOf(app, section), key, value));
 }
 
-void IniFileStore::Write() const {
-    std::ostringstream out;
-    for (const auto& [header, keys] : sections_) {
-        out << '[' << header << "]\n";
-        for (const auto& [k, v] : keys) out << k << '=' << v << '\n';
+// One key changed in the lines as they are; every other line, comments and lines the store
+// does not understand among them, stays as it was.
+std::vector<std::string> IniFileStore::WithSetting(std::vector<std::string> lines, const std::string& header,
+                                                   const std::string& key, const std::string& value) {
+    const std::string entry = key + "=" + value;
+    std::string current, k, v;
+    std::ptrdiff_t sectionEnd = -1;  // after the last line of the wanted section
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (IsHeader(lines[i], current)) {
+            if (current == header) sectionEnd = static_cast<std::ptrdiff_t>(i) + 1;
+            continue;
+        }
+        if (current != header) continue;
+        if (IsEntry(lines[i], k, v) && k == key) {
+            lines[i] = entry;
+            return lines;
+        }
+        if (!TrimBlanks(lines[i]).empty()) sectionEnd = static_cast<std::ptrdiff_t>(i) + 1;
     }
+    if (sectionEnd < 0) {
+        lines.push_back("[" + header + "]");
+        lines.push_back(entry);
+    } else {
+        lines.insert(lines.begin() + sectionEnd, entry);
+    }
+    return lines;
+}
+
+// Whole or not at all: the lines go to a temporary file of this write's own, which then
+// replaces the settings file.
+void IniFileStore::Write(const std::vector<std::string>& lines) const {
+    std::ostringstream out;
+    for (const auto& line : lines) out << line << '\n';
     std::error_code ec;
     if (file_.has_parent_path()) std::filesystem::create_directories(file_.parent_path(), ec);
     auto temp = file_;
-    temp += ".tmp";
+    temp += ".tmp" + std::to_string(std::random_device{}());
     {
         std::ofstream f(temp, std::ios::binary | std::ios::trunc);
         f << out.str();
-        if (!f.flush())
-            throw support::Error(support::errors::kPermissionDenied,
-                                 "Cannot write settings file " + file_.string());
+        if (!f.flush()) {
+            std::filesystem::remove(temp, ec);
+            throw support::Error(support::errors::kPermissionDenied, "Cannot write settings file " + file_.string());
+        }
     }
     std::filesystem::rename(temp, file_, ec);
-    if (ec)
-        throw support::Error(support::errors::kPermissionDenied,
-                             "Cannot write settings file " + file_.string());
+    if (ec) {
+        std::filesystem::remove(temp, ec);
+        throw support::Error(support::errors::kPermissionDenied, "Cannot write settings file " + file_.string());
+    }
 }
 
 }  // namespace settings

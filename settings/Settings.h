@@ -1,7 +1,7 @@
 #pragma once
 #include <filesystem>
-#include <map>
 #include <string>
+#include <vector>
 
 namespace settings {
 
@@ -15,7 +15,9 @@ public:
                              const std::string& value) = 0;
 };
 
-// One INI file with "[App\Section]" headers. Every save rewrites the file whole
+// One INI file with "[App\Section]" headers. Each read reads the file as it is; each save
+// changes one key in the file as it is on disk at that moment and keeps every other line,
+// so that two sessions never lose each other's keys nor the user's comments. A save goes
 // through a temporary file, so an interrupted write never leaves half a file.
 class IniFileStore : public Store {
 public:
@@ -31,11 +33,10 @@ public:
     const std::filesystem::path& Path() const { return file_; }
 
 private:
-    using Sections = std::map<std::string, std::map<std::string, std::string>>;
-    void Load();
-    void Write() const;
+    static std::vector<std::string> WithSetting(std::vector<std::string> lines, const std::string& header,
+                                                const std::string& key, const std::string& value);
+    void Write(const std::vector<std::string>& lines) const;
     std::filesystem::path file_;
-    Sections sections_;
 };
 
 }  // namespace settings
