@@ -121,12 +121,4 @@ void BaseAssemblyForm::cmdDone_Click() {
     state_.platform.AppActivate(state_.App().Caption());
 }
 
-bool BaseAssemblyForm::SettingToBool(const std::string& text, bool defaultValue) {
-    try {
-        return support::Variant(text).ToBool();
-    } catch (const support::Error&) {
-        return defaultValue;
-    }
-}
-
 }  // namespace copy

@@ -37,11 +37,6 @@ protected:
     // What the walks need, with this dialog as their progress sink.
     WalkContext Context() { return {state_.App(), state_.fileSystem, state_.platform, *this}; }
 
-    // Settings keep booleans as the platform writes them ("True"/"False"); older or
-    // hand-written values ("1", "0") read as well, anything else as the default.
-    static bool SettingToBool(const std::string& text, bool defaultValue);
-    static std::string BoolToSetting(bool value) { return value ? "True" : "False"; }
-
     addin::AddinState& state_;
 
 private:

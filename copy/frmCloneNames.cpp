@@ -1,5 +1,6 @@
 #include "copy/frmCloneNames.h"
 
+#include "addin/shared/SettingValues.h"
 #include "copy/engine/RenamingWalk.h"
 #include "host/Application.h"
 #include "host/Component.h"
@@ -60,9 +61,9 @@ void frmCloneNames::LoadSettings() {
     (*this)["txtTargetDir"].SetText(get("TargetDir", "C:\\Temp"));
     (*this)["txtPrefix"].SetText(get("Prefix", "!New-"));
     (*this)["txtSuffix"].SetText(get("Suffix", "-001"));
-    (*this)["chkPrefix"].SetValue(static_cast<int>(support::Val(get("UsePrefix", "1"))));
-    (*this)["chkSuffix"].SetValue(static_cast<int>(support::Val(get("UseSuffix", "1"))));
-    (*this)["optStandalone"].SetValue(SettingToBool(get("Standalone", "1"), true) ? -1 : 0);
+    (*this)["chkPrefix"].SetValue(addin::ReadWholeSetting(state_, kSection, "UsePrefix", 1, 0, 1));
+    (*this)["chkSuffix"].SetValue(addin::ReadWholeSetting(state_, kSection, "UseSuffix", 1, 0, 1));
+    (*this)["optStandalone"].SetValue(addin::ReadBoolSetting(state_, kSection, "Standalone", true) ? -1 : 0);
 }
 
 void frmCloneNames::SaveSettings() {
@@ -72,7 +73,7 @@ void frmCloneNames::SaveSettings() {
     save("Suffix", (*this)["txtSuffix"].Text());
     save("UsePrefix", std::to_string((*this)["chkPrefix"].Value()));
     save("UseSuffix", std::to_string((*this)["chkSuffix"].Value()));
-    save("Standalone", BoolToSetting((*this)["optStandalone"].Value() != 0));
+    save("Standalone", addin::BoolToSetting((*this)["optStandalone"].Value() != 0));
 }
 
 bool frmCloneNames::CheckChoices() {

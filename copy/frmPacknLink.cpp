@@ -1,5 +1,6 @@
 #include "copy/frmPacknLink.h"
 
+#include "addin/shared/SettingValues.h"
 #include "copy/engine/PackingWalk.h"
 #include "host/Application.h"
 #include "host/Component.h"
@@ -36,7 +37,7 @@ void frmPacknLink::Build() {
 void frmPacknLink::Form_Activate() {
     (*this)["txtTargetDir"].SetText(state_.GetSetting(kSection, "TargetDir", "C:\\Temp"));
     // One of the two sources is always chosen: a stored "False" picks disk to disk.
-    bool fromMemory = SettingToBool(state_.GetSetting(kSection, "FromTo", "1"), true);
+    bool fromMemory = addin::ReadBoolSetting(state_, kSection, "FromTo", true);
     (*this)[fromMemory ? "optFromMem" : "optFromDisk"].SetValue(-1);
     SetCaption("Pack-N-Link ");
     if (state_.selectedOccurrence)
@@ -47,7 +48,7 @@ void frmPacknLink::Form_Activate() {
 
 void frmPacknLink::Form_Unload() {
     state_.SaveSetting(kSection, "TargetDir", (*this)["txtTargetDir"].Text());
-    state_.SaveSetting(kSection, "FromTo", BoolToSetting((*this)["optFromMem"].Value() != 0));
+    state_.SaveSetting(kSection, "FromTo", addin::BoolToSetting((*this)["optFromMem"].Value() != 0));
 }
 
 void frmPacknLink::cmdClone_Click() {

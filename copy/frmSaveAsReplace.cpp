@@ -1,5 +1,6 @@
 #include "copy/frmSaveAsReplace.h"
 
+#include "addin/shared/DialogPosition.h"
 #include "copy/paths/Paths.h"
 #include "host/Application.h"
 #include "host/Codes.h"
@@ -39,13 +40,11 @@ void frmSaveAsReplace::Build() {
 
 void frmSaveAsReplace::Form_Load() {
     state_.platform.SetOwner(*this, state_.App().MainFrameHWND());
-    Top = static_cast<int>(support::Val(state_.GetSetting(kSection, "DialogTop", "0")));
-    Left = static_cast<int>(support::Val(state_.GetSetting(kSection, "DialogLeft", "0")));
+    addin::RestorePosition(state_, *this, kSection);
 }
 
 void frmSaveAsReplace::Form_Unload() {
-    state_.SaveSetting(kSection, "DialogTop", std::to_string(Top));
-    state_.SaveSetting(kSection, "DialogLeft", std::to_string(Left));
+    addin::SavePosition(state_, *this, kSection);
 }
 
 // Clicked again while a pick waits, "Select" leaves that pick to finish.

@@ -135,13 +135,15 @@ void IniFileStore::Write(const std::vector<std::string>& lines) const {
         f << out.str();
         if (!f.flush()) {
             std::filesystem::remove(temp, ec);
-            throw support::Error(support::errors::kPermissionDenied, "Cannot write settings file " + file_.string());
+            throw support::Error(support::errors::kPermissionDenied,
+                                 "Cannot write settings file " + file_.string());
         }
     }
     std::filesystem::rename(temp, file_, ec);
     if (ec) {
         std::filesystem::remove(temp, ec);
-        throw support::Error(support::errors::kPermissionDenied, "Cannot write settings file " + file_.string());
+        throw support::Error(support::errors::kPermissionDenied,
+                             "Cannot write settings file " + file_.string());
     }
 }
 

@@ -14,8 +14,7 @@ namespace addin {
 // "DialogTop" and "DialogLeft", in twips. A stored value that is not a number the
 // window can take (text, or beyond the 16-bit range of a window position) places the
 // dialog at the default instead of failing its load.
-void RestorePosition(addin::AddinState& state, ui::Form& form, const std::string& section,
-                     const std::string& defaultValue = "0");
+void RestorePosition(addin::AddinState& state, ui::Form& form, const std::string& section);
 void SavePosition(addin::AddinState& state, const ui::Form& form, const std::string& section);
 
 }  // namespace addin

@@ -58,7 +58,8 @@ TEST_F(SettingsTest, DefaultPathFollowsTheEnvironment) {
 // in the file as it is then, and nothing else.
 TEST_F(SettingsTest, ASaveChangesOneKeyAndKeepsEveryOtherLineAndSession) {
     std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file) << "; my notes\n[Tarnwell\\Preview]\nDialogTop=10\nsomething odd\n\n[Other\\Tool]\nX=1\n";
+    std::ofstream(file)
+        << "; my notes\n[Tarnwell\\Preview]\nDialogTop=10\nsomething odd\n\n[Other\\Tool]\nX=1\n";
     settings::IniFileStore first(file), second(file);
     first.SaveSetting("Tarnwell", "Preview", "DialogLeft", "20");
     second.SaveSetting("Tarnwell", "PackNLink", "TargetDir", "D:\\Out");
@@ -67,9 +68,10 @@ TEST_F(SettingsTest, ASaveChangesOneKeyAndKeepsEveryOtherLineAndSession) {
     EXPECT_EQ(first.GetSetting("Tarnwell", "PackNLink", "TargetDir", ""), "D:\\Out");
     std::ifstream in(file);
     std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    EXPECT_EQ(text,
-              "; my notes\n[Tarnwell\\Preview]\nDialogTop=30\nsomething odd\nDialogLeft=20\n\n[Other\\Tool]\nX=1\n"
-              "[Tarnwell\\PackNLink]\nTargetDir=D:\\Out\n");
+    EXPECT_EQ(
+        text,
+        "; my notes\n[Tarnwell\\Preview]\nDialogTop=30\nsomething odd\nDialogLeft=20\n\n[Other\\Tool]\nX=1\n"
+        "[Tarnwell\\PackNLink]\nTargetDir=D:\\Out\n");
     for (const auto& entry : std::filesystem::directory_iterator(file.parent_path()))
         EXPECT_EQ(entry.path().filename(), file.filename()) << "no temporary file is left behind";
 }
