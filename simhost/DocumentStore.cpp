@@ -108,7 +108,16 @@ SimDocumentPtr DocumentStore::Begin(const std::string& fullFileName,
     if (!resolved.exists || resolved.isFolder) throw Error(errors::kFileNotFound, "File not found: " + name);
     if (auto loaded = Find(name)) return loaded;
     std::string key = Key(name);
-    if (!loading.insert(key).second) throw Error(errors::kFail, name + ": the file references itself");
+    if (!loading.insert(key).second) {
+        // A file met again while it loads is a reference cycle: every file of it is named.
+        std::string cycle;
+        bool inCycle = false;
+        for (const auto& pending : stack) {
+            inCycle = inCycle || pending->key == key;
+            if (inCycle) cycle += pending->name + " -> ";
+        }
+        throw Error(errors::kFail, "The files reference each other in a cycle: " + cycle + name);
+    }
 
     auto pending = std::make_unique<PendingLoad>();
     pending->name = name;

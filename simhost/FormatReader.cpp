@@ -335,9 +335,40 @@ void Reader::Occurrences(const Json& v, DocData& data) const {
     }
 }
 
+// Where a byte of the text lies, as a person counts: line and column from 1.
+std::string LineAndColumn(std::string_view text, std::size_t offset) {
+    std::size_t line = 1, column = 1;
+    for (std::size_t i = 0; i < offset && i < text.size(); ++i) {
+        if (text[i] == '\n') {
+            ++line;
+            column = 1;
+        } else {
+            ++column;
+        }
+    }
+    return "line " + std::to_string(line) + ", column " + std::to_string(column);
+}
+
 DocData Reader::Document(std::string_view text) {
-    Json doc = Json::parse(text, nullptr, false);
-    if (doc.is_discarded()) Fail("", "not a valid JSON document");
+    // A key given twice in one object would silently keep the last value: refused instead.
+    std::vector<std::set<std::string>> keys;
+    std::string duplicate;
+    auto watch = [&](int /*depth*/, Json::parse_event_t event, Json& parsed) {
+        if (event == Json::parse_event_t::object_start) keys.emplace_back();
+        if (event == Json::parse_event_t::object_end && !keys.empty()) keys.pop_back();
+        if (event == Json::parse_event_t::key && !keys.empty() &&
+            !keys.back().insert(parsed.get<std::string>()).second && duplicate.empty())
+            duplicate = parsed.get<std::string>();
+        return true;
+    };
+    Json doc;
+    try {
+        doc = Json::parse(text, watch);
+    } catch (const Json::parse_error& e) {
+        // The byte the parser stopped at is one past the fault.
+        Fail("", "not a valid JSON document: " + LineAndColumn(text, e.byte > 0 ? e.byte - 1 : 0));
+    }
+    if (!duplicate.empty()) Fail("", "the key " + Quoted(duplicate) + " is given twice in one object");
     AnObject(doc, "");
     if (!doc.contains("type")) Fail("", "no document type (field \"type\")");
     std::string type = AString(doc["type"], "type");

@@ -153,6 +153,10 @@ TEST(FormatRefusals, BadFilesAreRefusedNamingTheFile) {
         {R"({"type": "part", "massUnits": "stone"})", "massUnits"},
         {R"({"type": "part", "thumbnail": 12})", "not a view orientation code"},
         {R"({"type": "part", "customPropertySets": [{"name": "eMatrix", "formatId": "nope"}]})", "GUID"},
+        {"{\"type\": \"part\",\n \"volume\": 3,\n}", "not a valid JSON document: line 3, column 1"},
+        {R"({"type": "part", "volume": 3, "volume": 4})", "the key \"volume\" is given twice"},
+        {R"({"type": "part", "properties": {"Summary Information": {"Title": "a", "Title": "b"}}})",
+         "the key \"Title\" is given twice"},
     };
     for (const auto& c : cases) {
         support::Error e = ErrorOf([&] { Read(c.text, "C:\\Work\\Bad.ipt"); });
@@ -184,7 +188,16 @@ TEST_F(FormatLoadTest, OpeningABadFileFailsNamingItAndLeavesNothingLoaded) {
 
     WriteFile("Work/Loop.iam", R"({"type": "assembly", "occurrences": [{"file": "C:\\Work\\Loop.iam"}]})");
     e = ErrorOf([&] { host.Open("C:\\Work\\Loop.iam"); });
-    EXPECT_NE(e.Description().find("references itself"), std::string::npos);
+    EXPECT_NE(e.Description().find("cycle: C:\\Work\\Loop.iam -> C:\\Work\\Loop.iam"), std::string::npos)
+        << e.Description();
+    // A longer cycle names every file of it, from where it closes.
+    WriteFile("Work/A.iam", R"({"type": "assembly", "occurrences": [{"file": "C:\\Work\\B.iam"}]})");
+    WriteFile("Work/B.iam", R"({"type": "assembly", "occurrences": [{"file": "C:\\Work\\C.iam"}]})");
+    WriteFile("Work/C.iam", R"({"type": "assembly", "occurrences": [{"file": "C:\\Work\\B.iam"}]})");
+    e = ErrorOf([&] { host.Open("C:\\Work\\A.iam"); });
+    EXPECT_NE(e.Description().find("cycle: C:\\Work\\B.iam -> C:\\Work\\C.iam -> C:\\Work\\B.iam"),
+              std::string::npos)
+        << e.Description();
     EXPECT_EQ(host.Application()->Documents()->Count(), 0);
 }
 
