@@ -38,7 +38,8 @@ void RebuildEMatrixSet(host::Document& document) {
     set->Delete();
 
     auto rebuilt = sets->Add(kEMatrixName, kEMatrixId);
-    for (const auto& [name, value, id] : rows) IgnoringErrors([&] { rebuilt->Add(value, name, id); });
+    for (const auto& row : rows)
+        IgnoringErrors([&] { rebuilt->Add(std::get<1>(row), std::get<0>(row), std::get<2>(row)); });
 }
 
 }  // namespace properties
