@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "support/Error.h"
 #include "support/Text.h"
 
 namespace properties {
@@ -28,8 +29,14 @@ std::optional<TitleBlockField> ParseTitleBlockField(std::string_view formattedTe
 
     auto property = formattedText.find(kPropertyKey);
     if (property != std::string_view::npos) {
-        // Rounded to even at .5, as the platform's 16-bit conversion does.
-        double number = std::nearbyint(support::Val(From(formattedText, property + kPropertyKey.size() + 1)));
+        // Rounded to even at .5, as the platform's 16-bit conversion does. A number too
+        // large even for a double ("5e5555") overflows like one beyond 16 bits.
+        double number = 0;
+        try {
+            number = std::nearbyint(support::Val(From(formattedText, property + kPropertyKey.size() + 1)));
+        } catch (const support::Error&) {
+            return std::nullopt;
+        }
         if (!(number >= INT16_MIN && number <= INT16_MAX)) return std::nullopt;
         field.propertyId = static_cast<std::int16_t>(number);
     }

@@ -12,7 +12,8 @@ namespace properties {
 // - no "FormatID=": no field;
 // - fewer than 38 characters after it: the shorter identifier, which names no set;
 // - no "PropertyID=", or no number behind it: identifier 0, which is collected and never listed;
-// - a number beyond a 16-bit integer: no field, as the platform's conversion would overflow.
+// - a number beyond a 16-bit integer, or beyond a double: no field, as the platform's
+//   conversion would overflow.
 struct TitleBlockField {
     std::string formatId;
     std::int16_t propertyId = 0;
