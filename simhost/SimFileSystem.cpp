@@ -51,7 +51,20 @@ VirtualDrive::Resolved SimFileSystem::ExistingFile(std::string_view path) const 
     return r;
 }
 
+void SimFileSystem::FailWriteAfter(int writesLeft, bool refused) {
+    writesBeforeFault_ = writesLeft;
+    faultRefuses_ = refused;
+    writeFaultFired_ = false;
+}
+
 void SimFileSystem::CheckWriteAllowed(const VirtualDrive::Resolved& target) const {
+    if (writesBeforeFault_ >= 0 && writesBeforeFault_-- == 0) {
+        writeFaultFired_ = true;
+        if (faultRefuses_)
+            throw Error(errors::kPermissionDenied,
+                        "Permission denied: " + target.windowsPath + " (the disk refused)");
+        throw Error(errors::kFail, "Cannot save " + target.windowsPath);
+    }
     if (refuseWrites_)
         throw Error(errors::kPermissionDenied,
                     "Permission denied: " + target.windowsPath + " (the disk refuses writes)");

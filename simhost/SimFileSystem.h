@@ -24,6 +24,11 @@ public:
     void FailSaveOf(std::string_view path);  // writes and copies to this file fail
     void RefuseWrites(bool refuse) { refuseWrites_ = refuse; }
     void RefuseWritesIn(std::string_view folder);  // a folder the user may not write to
+    // The write after the next `writesLeft` ones fails, as a failing save (kFail) or a disk
+    // that refuses it (permission denied); then writes go through again. Returns whether
+    // the fault has fired since it was armed.
+    void FailWriteAfter(int writesLeft, bool refused);
+    bool WriteFaultFired() const { return writeFaultFired_; }
 
     // The path with its existing components in their stored case.
     std::string Canonical(std::string_view path) const { return drive_.Resolve(path).windowsPath; }
@@ -47,6 +52,9 @@ private:
     VirtualDrive drive_;
     Observer* observer_ = nullptr;
     bool refuseWrites_ = false;
+    mutable int writesBeforeFault_ = -1;  // -1: no fault armed
+    bool faultRefuses_ = false;
+    mutable bool writeFaultFired_ = false;
     std::unordered_set<std::string> failSaveOf_;      // lower-case canonical names
     std::unordered_set<std::string> refusedFolders_;  // lower-case canonical names, "\" at the end
 };

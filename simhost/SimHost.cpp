@@ -130,6 +130,14 @@ void SimHost::FailSaveOf(const std::string& fullFileName) {
     state_->fileSystem.FailSaveOf(fullFileName);
 }
 
+void SimHost::FailWriteAfter(int writesLeft, bool refused) {
+    state_->fileSystem.FailWriteAfter(writesLeft, refused);
+}
+
+bool SimHost::WriteFaultFired() const {
+    return state_->fileSystem.WriteFaultFired();
+}
+
 void SimHost::RefuseWritesIn(const std::string& folder) {
     state_->fileSystem.RefuseWritesIn(folder);
 }

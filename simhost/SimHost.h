@@ -75,6 +75,9 @@ public:
     void FailSaveOf(const std::string& fullFileName);  // saving this file fails
     void RefuseWrites(bool refuse);                    // the disk refuses every write
     void RefuseWritesIn(const std::string& folder);    // writes into this folder are refused
+    // The write after the next `writesLeft` ones fails: a failing save, or a refusal.
+    void FailWriteAfter(int writesLeft, bool refused);
+    bool WriteFaultFired() const;
 
     // --- what tests and the transcript read
     bool InteractionRunning() const;

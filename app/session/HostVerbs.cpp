@@ -144,6 +144,12 @@ void AddHostVerbs(std::vector<Verb>& verbs) {
 
     verbs.push_back({"fail-save", "fail-save PATH", 1, 1,
                      [](Session& s, const Args& a) { s.Host().FailSaveOf(a.Text(0)); }});
+    verbs.push_back({"fail-write-after", "fail-write-after N [refused]", 1, 2,
+                     [](Session& s, const Args& a) { s.Host().FailWriteAfter(a.Int(0), a.Count() > 1); },
+                     [](const Args& a) {
+                         if (a.Int(0) < 0) a.Fail("N is the number of writes that go through first");
+                         if (a.Count() > 1 && !a.Is(1, "refused")) a.Fail("the only option is refused");
+                     }});
     verbs.push_back({"refuse-folder", "refuse-folder FOLDER", 1, 1,
                      [](Session& s, const Args& a) { s.Host().RefuseWritesIn(a.Text(0)); }});
     verbs.push_back(
