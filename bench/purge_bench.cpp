@@ -47,7 +47,8 @@ int GenerateTree(const fs::path& root, int subs) {
         for (int p = 0; p < kPartsPerSub; ++p) {
             std::string name = "P" + std::to_string(s) + "_" + std::to_string(p) + ".ipt";
             WriteFile(root / "Parts" / name, Part());
-            if (p % 2) fs::permissions(root / "Parts" / name, fs::perms::owner_write, fs::perm_options::remove);
+            if (p % 2)
+                fs::permissions(root / "Parts" / name, fs::perms::owner_write, fs::perm_options::remove);
             sub += std::string(p ? ", " : "") + R"({"file": "C:\\Parts\\)" + name + R"("})";
         }
         WriteFile(root / "Subs" / ("S" + std::to_string(s) + ".iam"), sub + "]}");
@@ -79,8 +80,8 @@ void Run(const fs::path& root, int subs) {
     start = std::chrono::steady_clock::now();
     purge::PurgeWalk({*host.Application(), host.FileSystem(), sink, true}).PurgeTree(top);
     double walk = Seconds(start);
-    std::printf("%5d documents: open %.3f s, purge %.3f s = %.3f ms a document (%d lines)\n", documents, open, walk,
-                1000 * walk / documents, sink.lines);
+    std::printf("%5d documents: open %.3f s, purge %.3f s = %.3f ms a document (%d lines)\n", documents, open,
+                walk, 1000 * walk / documents, sink.lines);
     host.CloseAll();
     for (auto& entry : fs::recursive_directory_iterator(root))
         fs::permissions(entry.path(), fs::perms::owner_write, fs::perm_options::add);

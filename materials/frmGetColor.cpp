@@ -6,6 +6,7 @@
 #include "host/Component.h"
 #include "host/Document.h"
 #include "host/Styles.h"
+#include "materials/SourceLists.h"
 #include "materials/TemplateFile.h"
 #include "materials/records/DeleteUnused.h"
 #include "support/Error.h"
@@ -97,13 +98,8 @@ void frmGetColor::CloseToHost() {
 }
 
 void frmGetColor::cmdBrowse_Click() {
-    auto start = paths::SplitPath((*this)["Text1"].Text());
-    std::string chosen =
-        paths::OpenFilePrompt(state_.platform, kModelFilter, start.directory, start.fileName);
-    (*this)["Text1"].SetText(chosen);
-    if (chosen.empty()) return;
-    state_.SaveSetting(kSection, kTemplateKey, chosen);
-    LoadSourceColors(chosen);
+    std::string chosen = BrowseForSource(state_, (*this)["Text1"], kModelFilter, kSection, kTemplateKey);
+    if (!chosen.empty()) LoadSourceColors(chosen);
 }
 
 void frmGetColor::cmdImportMaterials_Click() {
@@ -132,22 +128,9 @@ void frmGetColor::LoadSourceColors(const std::string& path) {
 }
 
 void frmGetColor::Command1_Click() {
-    auto& source = (*this)["lstImport"];
-    bool single = source.SelectedCount() == 1;
-    std::string last;
-    for (int row = 0; row < static_cast<int>(source.Items.size()); ++row) {
-        if (!source.Selected(row)) continue;
-        last = source.Items[static_cast<std::size_t>(row)];
-        ImportColor(last);
-    }
-    RefreshTargetColors();
-    if (!single) return;
-    auto& target = (*this)["ListBox1"];
-    for (int row = 0; row < static_cast<int>(target.Items.size()); ++row)
-        if (target.Items[static_cast<std::size_t>(row)] == last) {
-            target.SetSelected(row, true);
-            target.ListIndex = row;
-        }
+    ImportSelectedRows((*this)["lstImport"], (*this)["ListBox1"],
+                       [this](const std::string& name) { ImportColor(name); },
+                       [this] { RefreshTargetColors(); });
 }
 
 // A style of the document's is overwritten without a question. A name the loaded table

@@ -7,6 +7,7 @@
 #include "host/Document.h"
 #include "host/FileSystem.h"
 #include "host/Styles.h"
+#include "materials/SourceLists.h"
 #include "materials/TemplateFile.h"
 #include "materials/records/DeleteUnused.h"
 #include "support/Error.h"
@@ -227,12 +228,8 @@ void frmGetMaterial::CloseToHost() {
 
 // A cancelled prompt empties the path and loads nothing.
 void frmGetMaterial::cmdBrowse_Click() {
-    auto start = paths::SplitPath((*this)["Text1"].Text());
-    std::string chosen = paths::OpenFilePrompt(state_.platform, kPartFilter, start.directory, start.fileName);
-    (*this)["Text1"].SetText(chosen);
-    if (chosen.empty()) return;
-    state_.SaveSetting(kSection, kTemplateKey, chosen);
-    LoadSourceTemplate(chosen);
+    std::string chosen = BrowseForSource(state_, (*this)["Text1"], kPartFilter, kSection, kTemplateKey);
+    if (!chosen.empty()) LoadSourceTemplate(chosen);
 }
 
 void frmGetMaterial::cmdImportMaterials_Click() {
@@ -277,22 +274,9 @@ void frmGetMaterial::LoadSourceTemplate(const std::string& path) {
 }
 
 void frmGetMaterial::Command1_Click() {
-    auto& source = (*this)["lstImport"];
-    bool single = source.SelectedCount() == 1;
-    std::string last;
-    for (int row = 0; row < static_cast<int>(source.Items.size()); ++row) {
-        if (!source.Selected(row)) continue;
-        last = source.Items[static_cast<std::size_t>(row)];
-        CreateMaterial(last, sourceMaterialTable_);
-    }
-    RefreshTargetMaterials();
-    if (!single) return;
-    auto& target = (*this)["ListBox1"];
-    for (int row = 0; row < static_cast<int>(target.Items.size()); ++row)
-        if (target.Items[static_cast<std::size_t>(row)] == last) {
-            target.SetSelected(row, true);
-            target.ListIndex = row;
-        }
+    ImportSelectedRows((*this)["lstImport"], (*this)["ListBox1"],
+                       [this](const std::string& name) { CreateMaterial(name, sourceMaterialTable_); },
+                       [this] { RefreshTargetMaterials(); });
 }
 
 std::shared_ptr<host::Material> frmGetMaterial::CreateMaterial(const std::string& name,

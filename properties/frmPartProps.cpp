@@ -64,7 +64,8 @@ void frmPartProps::Form_Load() {
     } else {
         assemblyContext_ = addin::kVbTrue;
         auto editObject = app.ActiveEditObject();
-        if (support::Required(editObject, "active edit object")->Type() != host::kAssemblyDocumentObjectType) {
+        if (support::Required(editObject, "active edit object")->Type() !=
+            host::kAssemblyDocumentObjectType) {
             state_.platform.MsgBox(kCommandActive);
             Unload();
             BringHostToFront();

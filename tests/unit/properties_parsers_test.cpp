@@ -46,7 +46,7 @@ TEST(TitleBlockField, HostileTextGivesADefinedAnswer) {
         {"FormatID='" + set + "' PropertyID='-32768'", true, set, -32768},
         {"FormatID='" + set + "' PropertyID='32768'", false, "", 0},  // beyond 16 bits
         {"FormatID='" + set + "' PropertyID='1e300'", false, "", 0},
-        {"FormatID='" + set + "' PropertyID='555e5555'", false, "", 0},                // found by fuzzing
+        {"FormatID='" + set + "' PropertyID='555e5555'", false, "", 0},   // found by fuzzing
         {"<<FormatID='" + set + "' <PropertyID='7'>>></", true, set, 7},  // unbalanced markup
         {std::string("FormatID='\xff\xfe\0\x01", 14) + "' PropertyID='4'", true,
          std::string("\xff\xfe\0\x01", 4) + "' PropertyID='4'", 4},  // binary bytes
