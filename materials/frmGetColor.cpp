@@ -1,6 +1,5 @@
 #include "materials/frmGetColor.h"
 
-#include "copy/paths/Paths.h"
 #include "host/Application.h"
 #include "host/Codes.h"
 #include "host/Component.h"
