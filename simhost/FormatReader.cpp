@@ -367,6 +367,8 @@ DocData Reader::Document(std::string_view text) {
     } catch (const Json::parse_error& e) {
         // The byte the parser stopped at is one past the fault.
         Fail("", "not a valid JSON document: " + LineAndColumn(text, e.byte > 0 ? e.byte - 1 : 0));
+    } catch (const Json::exception&) {  // a number beyond a double: the parser stops on it
+        Fail("", "not a valid JSON document: a number is too large");
     }
     if (!duplicate.empty()) Fail("", "the key " + Quoted(duplicate) + " is given twice in one object");
     AnObject(doc, "");

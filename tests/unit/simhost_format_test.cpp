@@ -155,6 +155,7 @@ TEST(FormatRefusals, BadFilesAreRefusedNamingTheFile) {
         {R"({"type": "part", "customPropertySets": [{"name": "eMatrix", "formatId": "nope"}]})", "GUID"},
         {"{\"type\": \"part\",\n \"volume\": 3,\n}", "not a valid JSON document: line 3, column 1"},
         {R"({"type": "part", "volume": 3, "volume": 4})", "the key \"volume\" is given twice"},
+        {R"({"type": "part", "volume": 1e999})", "a number is too large"},  // found by fuzzing
         {R"({"type": "part", "properties": {"Summary Information": {"Title": "a", "Title": "b"}}})",
          "the key \"Title\" is given twice"},
     };
