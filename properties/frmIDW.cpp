@@ -23,6 +23,7 @@ constexpr PropertyAddress kDesignStatus{kDesignTrackingId, 0, PropertyAddress::B
 // Drawings saved before release 7 have no deferred updates, nor a design status to set.
 constexpr std::int32_t kDeferFromRelease = 7;
 constexpr std::int32_t kTitleBlockSwapFromRelease = 9;
+constexpr const char* kDateHint = "Not a valid date use:\rmm/dd/yy hr:min:sec am";
 
 }  // namespace
 
@@ -155,36 +156,31 @@ void frmIDW::lstProps_DblClick() {
     WriteAnswer(record, answer);
 }
 
+// A date property takes a date only, stored as a general date. A date the property then
+// refuses shows the date hint and the general error, one after the other.
 void frmIDW::WriteAnswer(const clsTprop& record, const std::string& answer) {
-    bool failed = false;
+    bool writingDate = false;
     try {
         auto property = drawing_->PropertySets()->Item(record.FormatID)->ItemByPropId(record.PropertyID);
-        if (property->Value().Type() == support::VariantType::Date) {
-            auto date = support::ParseDate(answer);
-            bool written = false;
-            if (date) {
-                try {
-                    property->SetValue(support::Variant(support::FormatGeneralDate(*date)));
-                    written = true;
-                } catch (const support::Error&) {
-                    failed = true;
-                }
-            }
-            if (written) {
-                RefreshList();
-                FocusHost();
-            } else {
-                state_.platform.MsgBox("Not a valid date use:\rmm/dd/yy hr:min:sec am");
-            }
-        } else {
+        if (property->Value().Type() != support::VariantType::Date) {
             property->SetValue(support::Variant(answer));
             FocusHost();
             RefreshList();
+            return;
         }
+        auto date = support::ParseDate(answer);
+        if (!date) {
+            state_.platform.MsgBox(kDateHint);
+            return;
+        }
+        writingDate = true;
+        property->SetValue(support::Variant(support::FormatGeneralDate(*date)));
+        RefreshList();
+        FocusHost();
     } catch (const support::Error&) {
-        failed = true;
+        if (writingDate) state_.platform.MsgBox(kDateHint);
+        state_.platform.MsgBox("Error setting property, sorry");
     }
-    if (failed) state_.platform.MsgBox("Error setting property, sorry");
 }
 
 void frmIDW::cmdLinkModels_Click() {
