@@ -23,9 +23,9 @@ constexpr const char* kUsage =
 
 int RunScript(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    if (!in) {  // a script that is not there is a wrong command line
         std::cerr << "tarnwell: cannot read " << path << "\n";
-        return 1;
+        return 2;
     }
     std::stringstream text;
     text << in.rdbuf();

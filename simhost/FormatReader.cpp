@@ -134,6 +134,15 @@ support::Variant Reader::ValueOfKind(const Json& v, catalog::ValueKind kind, con
             ok = t == T::Long || t == T::Double;
             break;
         case catalog::ValueKind::Currency:
+            // A plain number is taken as an amount, as the host takes one for a currency.
+            if (t == T::Long || t == T::Double) {
+                try {
+                    value = support::Variant(support::Currency::FromDouble(value.ToDouble()));
+                } catch (const support::Error&) {
+                    Fail(where, "currency out of range");
+                }
+                t = T::Currency;
+            }
             ok = t == T::Currency;
             break;
         case catalog::ValueKind::Date:

@@ -99,6 +99,10 @@ TEST(FormatValues, TypedValuesKeepTheirKind) {
     EXPECT_EQ(again["properties"]["User Defined Properties"]["Due"]["date"], "1999-12-31");
     EXPECT_EQ(again["properties"]["Design Tracking Properties"]["Cost"]["currency"], 12.3456);
     EXPECT_EQ(again["properties"]["User Defined Properties"]["Ratio"], 2.5);
+    // A plain number for a currency property is an amount.
+    auto plain = Read(R"({"type": "part", "properties": {"Design Tracking Properties": {"Cost": 12.5}}})",
+                      "C:\\T.ipt");
+    EXPECT_EQ(plain.propertySets[2].properties[0].value, support::Variant(support::Currency{125000}));
     // 1899-12-30 is day 0 of the host's dates; 2024-02-29 13:05:09 is day 45351 and a fraction.
     EXPECT_NEAR(design[1].value.As<support::Date>()->serial, 45351 + (13 * 3600 + 5 * 60 + 9) / 86400.0,
                 1e-9);
