@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "test_support.h"
+#include "scoped_env.h"
 
 namespace {
 
@@ -46,12 +47,13 @@ TEST_F(SettingsTest, RefusesLineBreaksAndKeepsTheFileWhole) {
 }
 
 TEST_F(SettingsTest, DefaultPathFollowsTheEnvironment) {
-    setenv("TARNWELL_SETTINGS", (dir / "x.ini").c_str(), 1);
-    EXPECT_EQ(settings::IniFileStore::DefaultPath(), dir / "x.ini");
-    unsetenv("TARNWELL_SETTINGS");
-    setenv("XDG_CONFIG_HOME", dir.c_str(), 1);
+    {
+        test_support::ScopedEnv settingsFile("TARNWELL_SETTINGS", (dir / "x.ini").string());
+        EXPECT_EQ(settings::IniFileStore::DefaultPath(), dir / "x.ini");
+    }
+    test_support::ScopedEnv noSettingsFile("TARNWELL_SETTINGS", "");
+    test_support::ScopedEnv configHome("XDG_CONFIG_HOME", dir.string());
     EXPECT_EQ(settings::IniFileStore::DefaultPath(), dir / "tarnwell" / "settings.ini");
-    unsetenv("XDG_CONFIG_HOME");
 }
 
 // Two sessions on one file, and a file the user wrote by hand: a save changes its one key
