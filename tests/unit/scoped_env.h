@@ -19,11 +19,19 @@ public:
 
 private:
 #ifdef _WIN32
-    void Set(const char* value) { _putenv_s(name_.c_str(), value); }
-    void Unset() { _putenv_s(name_.c_str(), ""); }
+    void Set(const char* value) {
+        _putenv_s(name_.c_str(), value);
+    }
+    void Unset() {
+        _putenv_s(name_.c_str(), "");
+    }
 #else
-    void Set(const char* value) { setenv(name_.c_str(), value, 1); }
-    void Unset() { unsetenv(name_.c_str()); }
+    void Set(const char* value) {
+        setenv(name_.c_str(), value, 1);
+    }
+    void Unset() {
+        unsetenv(name_.c_str());
+    }
 #endif
     std::string name_;
     std::optional<std::string> old_;

@@ -1,0 +1,42 @@
+#include <gtest/gtest.h>
+
+#include "win/com/Bstr.h"
+#include "win/com/Utf16.h"
+
+namespace win::com {
+namespace {
+
+TEST(Utf16, RoundTripsEveryPlane) {
+    // ASCII, Latin-1 (a designer's "Größe"), a CJK ideograph, and a character beyond the BMP.
+    std::string text = "Frame \xC3\x9F \xE6\xA1\x86 \xF0\x9F\x94\xA9";
+    std::wstring wide = Utf8ToUtf16(text);
+    EXPECT_EQ(wide, std::wstring(L"Frame \u00DF \u6846 ") + wchar_t(0xD83D) + wchar_t(0xDD29));
+    EXPECT_EQ(Utf16ToUtf8(wide), text);
+}
+
+TEST(Utf16, InvalidInputBecomesReplacementWithoutSwallowingTheRest) {
+    // A stray continuation byte, a sequence cut short by a plain character, an overlong
+    // slash, an encoded surrogate, and a sequence cut short by the end of the text.
+    EXPECT_EQ(Utf8ToUtf16("a\x80z"), L"a\uFFFDz");
+    EXPECT_EQ(Utf8ToUtf16("a\xE6\xA1z"), L"a\uFFFDz");
+    EXPECT_EQ(Utf8ToUtf16("\xC0\xAF"), L"\uFFFD");
+    EXPECT_EQ(Utf8ToUtf16("\xED\xA0\x80"), L"\uFFFD");
+    EXPECT_EQ(Utf8ToUtf16("z\xF0\x9F"), L"z\uFFFD");
+    // Unpaired surrogates from the other side.
+    EXPECT_EQ(Utf16ToUtf8(std::wstring{L'a', wchar_t(0xD800), L'b'}),
+              "a\xEF\xBF\xBD"
+              "b");
+    EXPECT_EQ(Utf16ToUtf8(std::wstring{wchar_t(0xDC00)}), "\xEF\xBF\xBD");
+}
+
+TEST(Bstr, KeepsLengthAndEmbeddedNulsAndTreatsNullAsEmpty) {
+    std::string text("C:\\W\xC3\xB6rk\0tail", 13);
+    Bstr b(text);
+    EXPECT_EQ(SysStringLen(b.Get()), 12u);
+    EXPECT_EQ(b.ToUtf8(), text);
+    EXPECT_EQ(Utf8FromBstr(nullptr), "");
+    EXPECT_EQ(Bstr("").ToUtf8(), "");
+}
+
+}  // namespace
+}  // namespace win::com
