@@ -3,9 +3,9 @@
 #include <cstdio>
 #include <string>
 
+#include "support/Utf16.h"
 #include "win/com/Bstr.h"
 #include "win/com/ComPtr.h"
-#include "win/com/Utf16.h"
 
 namespace win::com {
 
@@ -37,7 +37,7 @@ std::string SystemMessage(HRESULT hr) {
     DWORD length = FormatMessageW(
         FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
         static_cast<DWORD>(hr), 0, reinterpret_cast<wchar_t*>(&buffer), 0, nullptr);
-    std::string text = length ? Utf16ToUtf8(std::wstring_view(buffer, length)) : std::string();
+    std::string text = length ? support::Utf16ToUtf8(std::wstring_view(buffer, length)) : std::string();
     LocalFree(buffer);
     while (!text.empty() && (text.back() == '\n' || text.back() == '\r' || text.back() == ' '))
         text.pop_back();
@@ -116,7 +116,7 @@ HRESULT ToErrorInfo(const support::Error& error, REFIID iid) {
     if (SUCCEEDED(CreateErrorInfo(create.Receive()))) {
         create->SetGUID(iid);
         create->SetSource(const_cast<LPOLESTR>(L"Tarnwell"));
-        std::wstring description = Utf8ToUtf16(error.Description());
+        std::wstring description = support::Utf8ToUtf16(error.Description());
         create->SetDescription(description.data());
         SetErrorInfo(0, create.As<IErrorInfo>(IID_IErrorInfo).Get());
     }

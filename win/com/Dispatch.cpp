@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "support/Error.h"
+#include "support/Utf16.h"
 #include "win/com/ComError.h"
-#include "win/com/Utf16.h"
 #include "win/com/VariantConversion.h"
 
 namespace win::com {
@@ -26,7 +26,7 @@ IDispatch& Dispatch::Required(std::string_view member) const {
 
 DISPID Dispatch::IdOf(std::string_view member) const {
     IDispatch& object = Required(member);
-    std::wstring name = Utf8ToUtf16(member);
+    std::wstring name = support::Utf8ToUtf16(member);
     LPOLESTR names[] = {name.data()};
     DISPID id = DISPID_UNKNOWN;
     HRESULT hr = object.GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
@@ -38,8 +38,8 @@ support::Variant Dispatch::Call(std::string_view member, const Arguments& args,
                                 const std::vector<NamedArgument>& named) const {
     IDispatch& object = Required(member);
     // The member's and its named parameters' DISPIDs come from one look-up.
-    std::vector<std::wstring> names{Utf8ToUtf16(member)};
-    for (const NamedArgument& n : named) names.push_back(Utf8ToUtf16(n.name));
+    std::vector<std::wstring> names{support::Utf8ToUtf16(member)};
+    for (const NamedArgument& n : named) names.push_back(support::Utf8ToUtf16(n.name));
     std::vector<LPOLESTR> pointers;
     for (std::wstring& n : names) pointers.push_back(n.data());
     std::vector<DISPID> ids(names.size(), DISPID_UNKNOWN);

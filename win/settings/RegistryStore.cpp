@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "support/Error.h"
+#include "support/Utf16.h"
 #include "win/com/Ole.h"
-#include "win/com/Utf16.h"
 
 namespace win::settings {
 
@@ -23,7 +23,7 @@ private:
 }  // namespace
 
 std::wstring RegistryStore::SectionKey(const std::string& app, const std::string& section) const {
-    return com::Utf8ToUtf16(base_ + "\\" + app + "\\" + section);
+    return support::Utf8ToUtf16(base_ + "\\" + app + "\\" + section);
 }
 
 std::string RegistryStore::GetSetting(const std::string& app, const std::string& section,
@@ -32,7 +32,7 @@ std::string RegistryStore::GetSetting(const std::string& app, const std::string&
     if (RegOpenKeyExW(HKEY_CURRENT_USER, SectionKey(app, section).c_str(), 0, KEY_QUERY_VALUE, h.Receive()) !=
         ERROR_SUCCESS)
         return defaultValue;
-    std::wstring name = com::Utf8ToUtf16(key);
+    std::wstring name = support::Utf8ToUtf16(key);
     // Ask for the size first: a setting may be longer than any buffer guessed here.
     DWORD type = 0, bytes = 0;
     if (RegQueryValueExW(h.Get(), name.c_str(), nullptr, &type, nullptr, &bytes) != ERROR_SUCCESS ||
@@ -45,7 +45,7 @@ std::string RegistryStore::GetSetting(const std::string& app, const std::string&
     // The stored text may or may not end with its NUL.
     std::wstring text(data.data(), bytes / sizeof(wchar_t));
     if (!text.empty() && text.back() == L'\0') text.pop_back();
-    return com::Utf16ToUtf8(text);
+    return support::Utf16ToUtf8(text);
 }
 
 void RegistryStore::SaveSetting(const std::string& app, const std::string& section, const std::string& key,
@@ -56,7 +56,7 @@ void RegistryStore::SaveSetting(const std::string& app, const std::string& secti
     LONG status = RegCreateKeyExW(HKEY_CURRENT_USER, SectionKey(app, section).c_str(), 0, nullptr,
                                   REG_OPTION_NON_VOLATILE, KEY_SET_VALUE, nullptr, h.Receive(), nullptr);
     if (status == ERROR_SUCCESS) {
-        std::wstring name = com::Utf8ToUtf16(key), text = com::Utf8ToUtf16(value);
+        std::wstring name = support::Utf8ToUtf16(key), text = support::Utf8ToUtf16(value);
         status = RegSetValueExW(h.Get(), name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
                                 static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
     }

@@ -7,10 +7,10 @@
 #include <optional>
 #include <string>
 
+#include "support/Utf16.h"
 #include "win/com/ComObject.h"
 #include "win/com/Dispatch.h"
 #include "win/com/DispatchObject.h"
-#include "win/com/Utf16.h"
 #include "win/server/AddInClsid.h"
 #include "win/server/HostInterfaces.h"
 
@@ -23,7 +23,7 @@ const std::wstring kClsidKey = std::wstring(L"CLSID\\") + kAddInClsidText;
 
 std::wstring DllPath() {
     const char* path = std::getenv("TARNWELL_DLL");
-    return path ? com::Utf8ToUtf16(path) : L"";
+    return path ? support::Utf8ToUtf16(path) : L"";
 }
 
 // Runs regsvr32 silently, as an installer does; its exit code.
@@ -98,9 +98,9 @@ TEST_F(RegisteredDll, WritesEveryKeyTheHostReadsAndUnregisterLeavesNothing) {
     };
     for (const Expected& e : expected) {
         std::optional<std::wstring> actual = Value(e.key, e.name);
-        ASSERT_TRUE(actual) << com::Utf16ToUtf8(e.key) << " "
-                            << (e.name ? com::Utf16ToUtf8(e.name) : "(default)");
-        EXPECT_EQ(*actual, e.value) << com::Utf16ToUtf8(e.key);
+        ASSERT_TRUE(actual) << support::Utf16ToUtf8(e.key) << " "
+                            << (e.name ? support::Utf16ToUtf8(e.name) : "(default)");
+        EXPECT_EQ(*actual, e.value) << support::Utf16ToUtf8(e.key);
     }
     EXPECT_TRUE(KeyExists(kClsidKey + L"\\Implemented Categories\\{39AD2B5C-7A29-11D6-8E0A-0010B541CAA8}"));
 

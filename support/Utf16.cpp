@@ -1,8 +1,8 @@
-#include "win/com/Utf16.h"
+#include "support/Utf16.h"
 
 #include <cstdint>
 
-namespace win::com {
+namespace support {
 
 namespace {
 constexpr char32_t kReplacement = 0xFFFD;
@@ -84,4 +84,4 @@ std::string Utf16ToUtf8(std::wstring_view utf16) {
     return out;
 }
 
-}  // namespace win::com
+}  // namespace support
