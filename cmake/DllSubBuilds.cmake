@@ -10,7 +10,6 @@ foreach(arch x86_64 i686)
     BINARY_DIR ${dir}
     CMAKE_ARGS -DCMAKE_TOOLCHAIN_FILE=${CMAKE_SOURCE_DIR}/cmake/mingw-w64-${arch}.cmake
                -DTARNWELL_MINGW_THREADS=win32 -DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE}
-    BUILD_COMMAND ${CMAKE_COMMAND} --build ${dir} --target Tarnwell
     BUILD_ALWAYS ON
     INSTALL_COMMAND ""
     BUILD_BYPRODUCTS ${dir}/win/server/Tarnwell.dll)

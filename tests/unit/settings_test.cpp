@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "test_support.h"
 #include "scoped_env.h"
+#include "test_support.h"
 
 namespace {
 

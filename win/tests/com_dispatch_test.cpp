@@ -3,7 +3,7 @@
 #include <array>
 
 #include "support/Error.h"
-#include "tests/unit/error_number.h"
+#include "tests/unit/test_support.h"
 #include "win/com/ComObject.h"
 #include "win/com/Dispatch.h"
 #include "win/com/DispatchObject.h"
@@ -11,8 +11,8 @@
 namespace win::com {
 namespace {
 
-using support::ErrorNumber;
 using support::Variant;
+using test_support::ErrorNumber;
 
 // One of our objects, reached only through IDispatch, as the host reaches ours.
 class Adder : public DispatchObject<> {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "support/Error.h"
-#include "tests/unit/error_number.h"
+#include "tests/unit/test_support.h"
 #include "win/com/Bstr.h"
 #include "win/com/ComObject.h"
 #include "win/com/DispatchObject.h"
@@ -10,8 +10,8 @@
 namespace win::com {
 namespace {
 
-using support::ErrorNumber;
 using support::Variant;
+using test_support::ErrorNumber;
 
 Variant RoundTrip(const Variant& v) {
     ComVariant com(v);
@@ -78,7 +78,7 @@ TEST(VariantConversion, HostTypesTakeTheNearestValueType) {
 
 TEST(VariantConversion, OnlyComObjectsCrossAndKeepTheirIdentity) {
     struct Plain : support::Object {};
-    EXPECT_EQ(ErrorNumber([] { ComVariant(Variant(std::make_shared<Plain>())); }),
+    EXPECT_EQ(ErrorNumber([] { ComVariant refused{Variant(std::make_shared<Plain>())}; }),
               support::errors::kTypeMismatch);
 
     struct Empty : DispatchObject<> {

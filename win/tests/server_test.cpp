@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "support/Error.h"
-#include "tests/unit/error_number.h"
+#include "tests/unit/test_support.h"
 #include "win/com/Bstr.h"
 #include "win/com/ComObject.h"
 #include "win/com/Dispatch.h"
@@ -111,7 +111,7 @@ TEST_F(AddInServerTest, TheAddInsErrorsReachTheHostWithNumberAndText) {
         EXPECT_EQ(e.Number(), support::errors::kUnexpected);
         EXPECT_EQ(e.Description(), "The icon was refused (Activate)");
     }
-    EXPECT_EQ(support::ErrorNumber([&] { com::Dispatch(server).Call("Activate", {siteObject}); }), 450);
+    EXPECT_EQ(test_support::ErrorNumber([&] { com::Dispatch(server).Call("Activate", {siteObject}); }), 450);
 }
 
 // A key tree of its own under HKEY_CURRENT_USER, removed whole.

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "support/Error.h"
-#include "tests/unit/error_number.h"
+#include "tests/unit/test_support.h"
 #include "win/com/Ole.h"
 #include "win/server/Registration.h"
 #include "win/settings/RegistryStore.h"
@@ -51,9 +51,9 @@ TEST_F(RegistryStoreTest, KeepsLongAndMultiLineValuesWhole) {
 
 TEST_F(RegistryStoreTest, RefusesEmptyNamesAndReadsOnlyText) {
     RegistryStore store(base);
-    EXPECT_EQ(support::ErrorNumber([&] { store.SaveSetting("Tarnwell", "GetColors", "", "v"); }),
+    EXPECT_EQ(test_support::ErrorNumber([&] { store.SaveSetting("Tarnwell", "GetColors", "", "v"); }),
               support::errors::kInvalidCall);
-    EXPECT_EQ(support::ErrorNumber([&] { store.SaveSetting("Tarnwell", "", "Key", "v"); }),
+    EXPECT_EQ(test_support::ErrorNumber([&] { store.SaveSetting("Tarnwell", "", "Key", "v"); }),
               support::errors::kInvalidCall);
     // A number another program left under a key is no setting of ours.
     store.SaveSetting("Tarnwell", "GetColors", "ColorsTemplate", "C:\\T.ipt");

@@ -20,7 +20,7 @@ bool Has(const std::vector<std::wstring>& texts, const std::wstring& text) {
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
-TEST(MessageBox, ShowsButtonsOfTheStyleAndAnswersTheButtonPressed) {
+TEST(MessageBoxDialog, ShowsButtonsOfTheStyleAndAnswersTheButtonPressed) {
     std::vector<std::wstring> buttons, statics;
     DialogDriver person(L"Tarnwell", [&](HWND box) {
         buttons = ChildTexts(box, L"Button");
@@ -34,7 +34,7 @@ TEST(MessageBox, ShowsButtonsOfTheStyleAndAnswersTheButtonPressed) {
     EXPECT_TRUE(Has(buttons, L"&Yes") && Has(buttons, L"&No"));
 }
 
-TEST(MessageBox, KeepsTheCallersTitleAndText) {
+TEST(MessageBoxDialog, KeepsTheCallersTitleAndText) {
     std::vector<std::wstring> statics;
     DialogDriver person(L"Pr\u00FCfung", [&](HWND box) {
         statics = ChildTexts(box, L"Static");
@@ -48,7 +48,7 @@ TEST(MessageBox, KeepsTheCallersTitleAndText) {
     EXPECT_TRUE(Has(statics, L"File not found\rC:\\W\u00F6rk\\a.ipt"));
 }
 
-TEST(InputBox, ShowsPromptAndDefaultAndAnswersTheTextOrNothingOnCancel) {
+TEST(InputBoxDialog, ShowsPromptAndDefaultAndAnswersTheTextOrNothingOnCancel) {
     std::vector<std::wstring> statics;
     std::wstring shownDefault;
     DialogDriver person(L"Tarnwell", [&](HWND box) {
