@@ -1,6 +1,6 @@
 # The add-in DLL of both architectures, built with the -win32 compilers in sub-builds of
 # this -posix test tree, so that one `windows` build and test run covers what a designer
-# installs. TARNWELL_DLL_<arch> names each DLL for the tests.
+# installs. TARNWELL_DLL_<arch> and TARNWELL_INSTALLER_<arch> name what the tests use.
 include(ExternalProject)
 include(${CMAKE_CURRENT_LIST_DIR}/DllChecks.cmake)
 foreach(arch x86_64 i686)
@@ -14,6 +14,11 @@ foreach(arch x86_64 i686)
     INSTALL_COMMAND ""
     BUILD_BYPRODUCTS ${dir}/win/server/Tarnwell.dll)
   set(TARNWELL_DLL_${arch} ${dir}/win/server/Tarnwell.dll)
+  if(arch STREQUAL "x86_64")
+    set(TARNWELL_INSTALLER_${arch} ${dir}/win/installer/Tarnwell-setup-x64.exe)
+  else()
+    set(TARNWELL_INSTALLER_${arch} ${dir}/win/installer/Tarnwell-setup.exe)
+  endif()
   tarnwell_dll_checks(dll.${arch} ${TARNWELL_DLL_${arch}} ${arch})
 endforeach()
 
