@@ -1,0 +1,264 @@
+#include "ui/win32/FormWindow.h"
+
+#include <functional>
+
+#include "support/Error.h"
+#include "support/Utf16.h"
+#include "ui/win32/Twips.h"
+
+namespace ui::win32 {
+
+namespace {
+constexpr wchar_t kWindowClass[] = L"TarnwellForm";
+constexpr int kFirstControlId = 1000;
+
+// The module this code lives in (the add-in DLL, or a test program): window classes
+// belong to it.
+HINSTANCE ThisModule() {
+    HMODULE module = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<LPCWSTR>(&ThisModule), &module);
+    return module;
+}
+
+struct Look {
+    const wchar_t* windowClass;
+    DWORD style;
+};
+
+Look LookOf(const Control& c) {
+    switch (c.Kind()) {
+        case ControlKind::Button:
+            return {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP};
+        case ControlKind::CheckBox:  // the form decides the value: no automatic toggling
+            return {L"BUTTON", BS_3STATE | WS_TABSTOP};
+        case ControlKind::OptionButton:
+            return {L"BUTTON", BS_RADIOBUTTON | WS_TABSTOP};
+        case ControlKind::TextBox:
+            return {L"EDIT", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP};
+        case ControlKind::Label:
+            return {L"STATIC", SS_LEFT | SS_NOPREFIX};
+        case ControlKind::ListBox:
+            return {L"LISTBOX",
+                    static_cast<DWORD>(LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER |
+                                       WS_TABSTOP | (c.MultiSelect ? LBS_EXTENDEDSEL : 0))};
+        case ControlKind::ComboBox:
+            return {L"COMBOBOX", CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP};
+        case ControlKind::Picture:
+            return {L"STATIC", SS_LEFT | SS_NOPREFIX | WS_BORDER};
+        case ControlKind::Frame:
+            return {L"BUTTON", BS_GROUPBOX};
+    }
+    return {L"STATIC", 0};
+}
+
+// What a control's window shows as its text.
+const std::string& ShownText(const Control& c) {
+    return c.Kind() == ControlKind::Picture ? c.Picture : c.Caption();
+}
+
+std::wstring WindowText(HWND window) {
+    std::wstring text(GetWindowTextLengthW(window) + 1, L'\0');
+    text.resize(GetWindowTextW(window, text.data(), static_cast<int>(text.size())));
+    return text;
+}
+
+void SetTextIfChanged(HWND window, const std::string& text) {
+    std::wstring wide = support::Utf8ToUtf16(text);
+    if (WindowText(window) != wide) SetWindowTextW(window, wide.c_str());
+}
+
+void RegisterWindowClass() {
+    static bool registered = false;
+    if (registered) return;
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = DefWindowProcW;  // replaced per window once it is created
+    windowClass.hInstance = ThisModule();
+    windowClass.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
+    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    windowClass.lpszClassName = kWindowClass;
+    registered = RegisterClassExW(&windowClass) != 0;
+}
+}  // namespace
+
+FormWindow::FormWindow(Form& form) : form_(form) {}
+
+FormWindow::~FormWindow() {
+    Destroy();
+}
+
+void FormWindow::Create(HWND owner) {
+    RegisterWindowClass();
+    dpi_ = ScreenDpi();
+    std::wstring caption = support::Utf8ToUtf16(form_.Caption());
+    window_ = CreateWindowExW(WS_EX_DLGMODALFRAME, kWindowClass, caption.c_str(),
+                              WS_POPUP | WS_CAPTION | WS_SYSMENU, TwipsToPixels(form_.Left, dpi_),
+                              TwipsToPixels(form_.Top, dpi_), TwipsToPixels(form_.Width, dpi_),
+                              TwipsToPixels(form_.Height, dpi_), owner, nullptr, ThisModule(), nullptr);
+    if (!window_) throw support::Error(support::errors::kFail, "Cannot create the window of " + form_.Name());
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&FormWindow::WindowProc));
+
+    HFONT font = static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
+    int id = kFirstControlId;
+    for (const auto& control : form_.Controls()) {
+        Look look = LookOf(*control);
+        HWND child =
+            CreateWindowExW(control->Kind() == ControlKind::TextBox ? WS_EX_CLIENTEDGE : 0, look.windowClass,
+                            L"", WS_CHILD | look.style, 0, 0, 0, 0, window_,
+                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id++)), ThisModule(), nullptr);
+        SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+        // A frame draws behind the controls that sit on it.
+        if (control->Kind() == ControlKind::Frame)
+            SetWindowPos(child, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        children_.push_back({control.get(), child, {}});
+    }
+    Sync();
+}
+
+void FormWindow::Destroy() {
+    if (!window_) return;
+    HWND window = window_;
+    window_ = nullptr;
+    children_.clear();
+    DestroyWindow(window);
+}
+
+HWND FormWindow::ControlWindow(const std::string& name) const {
+    for (const Child& child : children_)
+        if (child.control->Name() == name) return child.window;
+    return nullptr;
+}
+
+void FormWindow::Place(HWND window, int left, int top, int width, int height) const {
+    SetWindowPos(window, nullptr, TwipsToPixels(left, dpi_), TwipsToPixels(top, dpi_),
+                 TwipsToPixels(width, dpi_), TwipsToPixels(height, dpi_), SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FormWindow::Sync() {
+    if (!window_) return;
+    syncing_ = true;
+    SetTextIfChanged(window_, form_.Caption());
+    for (Child& child : children_) SyncChild(child);
+    syncing_ = false;
+}
+
+void FormWindow::SyncChild(Child& child) {
+    const Control& c = *child.control;
+    HWND w = child.window;
+    Place(w, c.Left, c.Top, c.Width, c.Height);
+    EnableWindow(w, c.Enabled);
+    ShowWindow(w, c.Visible ? SW_SHOWNA : SW_HIDE);
+    switch (c.Kind()) {
+        case ControlKind::CheckBox:
+            SendMessageW(w, BM_SETCHECK,
+                         c.Value() == 2 ? BST_INDETERMINATE
+                         : c.Value()    ? BST_CHECKED
+                                        : BST_UNCHECKED,
+                         0);
+            break;
+        case ControlKind::OptionButton:
+            SendMessageW(w, BM_SETCHECK, c.Value() ? BST_CHECKED : BST_UNCHECKED, 0);
+            break;
+        case ControlKind::TextBox:
+            SendMessageW(w, EM_SETREADONLY, c.Locked, 0);
+            break;
+        case ControlKind::ListBox:
+        case ControlKind::ComboBox: {
+            bool list = c.Kind() == ControlKind::ListBox;
+            if (child.rows != c.Items) {
+                SendMessageW(w, list ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
+                for (const std::string& row : c.Items) {
+                    std::wstring wide = support::Utf8ToUtf16(row);
+                    SendMessageW(w, list ? LB_ADDSTRING : CB_ADDSTRING, 0,
+                                 reinterpret_cast<LPARAM>(wide.c_str()));
+                }
+                child.rows = c.Items;
+            }
+            if (list && c.MultiSelect) {
+                for (int row = 0; row < static_cast<int>(c.Items.size()); ++row)
+                    SendMessageW(w, LB_SETSEL, c.Selected(row), row);
+            } else {
+                SendMessageW(w, list ? LB_SETCURSEL : CB_SETCURSEL, c.ListIndex, 0);
+            }
+            break;
+        }
+        default:
+            break;
+    }
+    // A list box has no text of its own; every other kind shows one.
+    if (c.Kind() != ControlKind::ListBox) SetTextIfChanged(w, ShownText(c));
+}
+
+void FormWindow::OnCommand(int id, int notification) {
+    std::size_t index = static_cast<std::size_t>(id - kFirstControlId);
+    if (syncing_ || index >= children_.size()) return;
+    Control& c = *children_[index].control;
+    HWND w = children_[index].window;
+    const std::string& name = c.Name();
+    // What the user did, as the form's event. Other notifications (EN_UPDATE, focus) are
+    // no event: syncing on them would put back text the form has not been told of yet.
+    std::function<void()> event;
+    switch (c.Kind()) {
+        case ControlKind::Button:
+        case ControlKind::CheckBox:
+        case ControlKind::OptionButton:
+            if (notification == BN_CLICKED) event = [&] { form_.Raise(name, EventKind::Click); };
+            break;
+        case ControlKind::TextBox:
+            if (notification == EN_CHANGE) event = [&] { c.SetText(support::Utf16ToUtf8(WindowText(w))); };
+            if (notification == EN_KILLFOCUS) event = [&] { form_.Raise(name, EventKind::LostFocus); };
+            break;
+        case ControlKind::ListBox:
+            if (notification == LBN_SELCHANGE)
+                event = [&] {
+                    if (c.MultiSelect)
+                        for (int row = 0; row < static_cast<int>(c.Items.size()); ++row)
+                            c.SetSelected(row, SendMessageW(w, LB_GETSEL, row, 0) > 0);
+                    c.ListIndex = static_cast<int>(
+                        SendMessageW(w, c.MultiSelect ? LB_GETCARETINDEX : LB_GETCURSEL, 0, 0));
+                    form_.Raise(name, EventKind::Click);
+                };
+            if (notification == LBN_DBLCLK) event = [&] { form_.Raise(name, EventKind::DblClick); };
+            break;
+        case ControlKind::ComboBox:
+            if (notification == CBN_SELCHANGE)
+                event = [&] {
+                    c.ListIndex = static_cast<int>(SendMessageW(w, CB_GETCURSEL, 0, 0));
+                    if (c.ListIndex >= 0 && c.ListIndex < static_cast<int>(c.Items.size()))
+                        c.SetCaption(c.Items[c.ListIndex]);
+                    form_.Raise(name, EventKind::Click);
+                };
+            if (notification == CBN_EDITCHANGE)
+                event = [&] { c.SetText(support::Utf16ToUtf8(WindowText(w))); };
+            break;
+        default:
+            break;
+    }
+    if (!event) return;
+    // An error no handler caught goes to the platform's report, never out through the
+    // window procedure.
+    ReportingErrors(form_.platform(), event);
+    Sync();  // the handler may have changed anything the form shows
+}
+
+LRESULT CALLBACK FormWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* self = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (self && window == self->window_) {
+        switch (message) {
+            case WM_COMMAND:
+                if (lParam) self->OnCommand(LOWORD(wParam), HIWORD(wParam));
+                return 0;
+            case WM_CLOSE:
+                // The form may refuse (Form_QueryUnload); an unloaded form loses its window.
+                ReportingErrors(self->form_.platform(), [&] {
+                    if (self->form_.Unload()) self->Destroy();
+                });
+                return 0;
+        }
+    }
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+}  // namespace ui::win32

@@ -1,0 +1,56 @@
+#pragma once
+// clang-format off
+#include <windows.h>
+// clang-format on
+
+#include <string>
+#include <vector>
+
+#include "ui/Form.h"
+
+namespace ui::win32 {
+
+// A ui::Form as a real window: one child window a control, placed from the form's twips at
+// the screen's DPI. It only mirrors the form's state (Sync) and feeds what the user does
+// back into the form as its events; no logic lives here.
+//
+// The start of the renderer: every control kind, positions, captions and texts, enabled,
+// visible, values, list rows and the selected row, clicks, double clicks, text changes and
+// closing. Not yet: menus and pop-up menus, tooltips, pictures' images, keyboard
+// navigation order, modal loops and owners (the platform's part).
+class FormWindow {
+public:
+    explicit FormWindow(Form& form);
+    ~FormWindow();
+    FormWindow(const FormWindow&) = delete;
+    FormWindow& operator=(const FormWindow&) = delete;
+
+    // Creates the window and its controls, hidden, owned by owner (may be none).
+    void Create(HWND owner);
+    // Brings every window in line with the form's state.
+    void Sync();
+    void Destroy();
+
+    HWND Window() const { return window_; }
+    // The child window of a control, for tests and the platform.
+    HWND ControlWindow(const std::string& name) const;
+
+private:
+    struct Child {
+        Control* control;
+        HWND window;
+        std::vector<std::string> rows;  // the rows last put into a list, so unchanged lists are left alone
+    };
+    static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void OnCommand(int id, int notification);
+    void SyncChild(Child& child);
+    void Place(HWND window, int left, int top, int width, int height) const;
+
+    Form& form_;
+    HWND window_ = nullptr;
+    std::vector<Child> children_;
+    int dpi_ = 96;
+    bool syncing_ = false;  // the notifications our own updates cause are not the user's
+};
+
+}  // namespace ui::win32
