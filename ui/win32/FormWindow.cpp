@@ -85,6 +85,7 @@ void RegisterWindowClass() {
 FormWindow::FormWindow(Form& form) : form_(form) {}
 
 FormWindow::~FormWindow() {
+    *alive_ = false;
     Destroy();
 }
 
@@ -239,8 +240,9 @@ void FormWindow::OnCommand(int id, int notification) {
     if (!event) return;
     // An error no handler caught goes to the platform's report, never out through the
     // window procedure.
+    std::shared_ptr<bool> alive = alive_;
     ReportingErrors(form_.platform(), event);
-    Sync();  // the handler may have changed anything the form shows
+    if (*alive) Sync();  // the handler may have changed anything the form shows
 }
 
 LRESULT CALLBACK FormWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -251,10 +253,9 @@ LRESULT CALLBACK FormWindow::WindowProc(HWND window, UINT message, WPARAM wParam
                 if (lParam) self->OnCommand(LOWORD(wParam), HIWORD(wParam));
                 return 0;
             case WM_CLOSE:
-                // The form may refuse (Form_QueryUnload); an unloaded form loses its window.
-                ReportingErrors(self->form_.platform(), [&] {
-                    if (self->form_.Unload()) self->Destroy();
-                });
+                // The form may refuse (Form_QueryUnload); the platform destroys the window
+                // of a form that unloads.
+                ReportingErrors(self->form_.platform(), [&] { self->form_.Unload(); });
                 return 0;
         }
     }

@@ -3,6 +3,7 @@
 #include <windows.h>
 // clang-format on
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,8 @@ namespace ui::win32 {
 //
 // The start of the renderer: every control kind, positions, captions and texts, enabled,
 // visible, values, list rows and the selected row, clicks, double clicks, text changes and
-// closing. Not yet: menus and pop-up menus, tooltips, pictures' images, keyboard
-// navigation order, modal loops and owners (the platform's part).
+// closing (the form is asked, and its platform destroys the window of an unloaded form).
+// Not yet: menus and pop-up menus, tooltips, pictures' images, keyboard navigation order.
 class FormWindow {
 public:
     explicit FormWindow(Form& form);
@@ -51,6 +52,9 @@ private:
     std::vector<Child> children_;
     int dpi_ = 96;
     bool syncing_ = false;  // the notifications our own updates cause are not the user's
+    // False once this object is gone: a handler may unload the form, and the platform then
+    // deletes its window while the window procedure is still running.
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 
 }  // namespace ui::win32
