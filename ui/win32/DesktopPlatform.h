@@ -13,8 +13,6 @@ namespace ui::win32 {
 
 // ui::Platform on the Windows desktop: the system's dialogs, programs started without a
 // command interpreter, and each loaded form as a window of its own.
-//
-// Not yet: pop-up menus (PopupMenu reports that it cannot show one).
 class DesktopPlatform : public Platform {
 public:
     DesktopPlatform() = default;

@@ -11,6 +11,7 @@ namespace ui::win32 {
 namespace {
 constexpr wchar_t kWindowClass[] = L"TarnwellForm";
 constexpr int kFirstControlId = 1000;
+constexpr int kFirstMenuId = 2000;  // plus the item's place among the form's menus
 
 // The module this code lives in (the add-in DLL, or a test program): window classes
 // belong to it.
@@ -141,6 +142,7 @@ void FormWindow::Sync() {
     if (!window_) return;
     syncing_ = true;
     SetTextIfChanged(window_, form_.Caption());
+    SyncMenuBar();
     for (Child& child : children_) SyncChild(child);
     syncing_ = false;
 }
@@ -190,6 +192,59 @@ void FormWindow::SyncChild(Child& child) {
     }
     // A list box has no text of its own; every other kind shows one.
     if (c.Kind() != ControlKind::ListBox) SetTextIfChanged(w, ShownText(c));
+}
+
+HMENU FormWindow::BuildMenu(const std::string& parent, bool bar) const {
+    HMENU menu = bar ? CreateMenu() : CreatePopupMenu();
+    const std::vector<MenuItem>& items = form_.Menus();
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const MenuItem& item = items[i];
+        if (item.Parent != parent || !item.Visible) continue;
+        std::wstring caption = support::Utf8ToUtf16(item.Caption);
+        UINT flags = (item.Checked ? MF_CHECKED : 0) | (item.Enabled ? 0 : MF_GRAYED);
+        bool hasItems = false;
+        for (const MenuItem& other : items) hasItems = hasItems || other.Parent == item.Name;
+        if (item.Caption == "-")
+            AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+        else if (hasItems)
+            AppendMenuW(menu, MF_POPUP | flags, reinterpret_cast<UINT_PTR>(BuildMenu(item.Name, false)),
+                        caption.c_str());
+        else
+            AppendMenuW(menu, MF_STRING | flags, kFirstMenuId + i, caption.c_str());
+    }
+    return menu;
+}
+
+void FormWindow::SyncMenuBar() {
+    HMENU bar = BuildMenu("", true);
+    if (GetMenuItemCount(bar) == 0) {
+        DestroyMenu(bar);
+        bar = nullptr;
+    }
+    HMENU old = GetMenu(window_);
+    SetMenu(window_, bar);
+    if (old) DestroyMenu(old);
+}
+
+void FormWindow::PopupMenu(const std::string& menu) {
+    if (!window_) return;
+    HMENU popup = BuildMenu(menu, false);
+    POINT at;
+    GetCursorPos(&at);
+    // The pop-up closes when the user clicks elsewhere only if its owner is in front.
+    SetForegroundWindow(window_);
+    int chosen = TrackPopupMenu(popup, TPM_RETURNCMD | TPM_RIGHTBUTTON, at.x, at.y, 0, window_, nullptr);
+    DestroyMenu(popup);
+    if (chosen) OnMenu(chosen);
+}
+
+void FormWindow::OnMenu(int id) {
+    std::size_t index = static_cast<std::size_t>(id - kFirstMenuId);
+    if (index >= form_.Menus().size()) return;
+    MenuItem item = form_.Menus()[index];  // a copy: the handler may change the menus
+    std::shared_ptr<bool> alive = alive_;
+    ReportingErrors(form_.platform(), [&] { form_.ClickMenu(item.Name, item.Index); });
+    if (*alive) Sync();
 }
 
 void FormWindow::OnCommand(int id, int notification) {
@@ -250,7 +305,10 @@ LRESULT CALLBACK FormWindow::WindowProc(HWND window, UINT message, WPARAM wParam
     if (self && window == self->window_) {
         switch (message) {
             case WM_COMMAND:
-                if (lParam) self->OnCommand(LOWORD(wParam), HIWORD(wParam));
+                if (lParam)
+                    self->OnCommand(LOWORD(wParam), HIWORD(wParam));
+                else if (HIWORD(wParam) == 0)
+                    self->OnMenu(LOWORD(wParam));
                 return 0;
             case WM_CLOSE:
                 // The form may refuse (Form_QueryUnload); the platform destroys the window

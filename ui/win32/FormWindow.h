@@ -17,8 +17,9 @@ namespace ui::win32 {
 //
 // The start of the renderer: every control kind, positions, captions and texts, enabled,
 // visible, values, list rows and the selected row, clicks, double clicks, text changes and
-// closing (the form is asked, and its platform destroys the window of an unloaded form).
-// Not yet: menus and pop-up menus, tooltips, pictures' images, keyboard navigation order.
+// closing (the form is asked, and its platform destroys the window of an unloaded form),
+// the menu bar and pop-up menus. Not yet: tooltips, pictures' images, keyboard navigation
+// order.
 class FormWindow {
 public:
     explicit FormWindow(Form& form);
@@ -32,6 +33,10 @@ public:
     void Sync();
     void Destroy();
 
+    // Shows one of the form's menus as a pop-up at the pointer; the item the user picks is
+    // clicked before this returns. Leaving the pop-up picks nothing.
+    void PopupMenu(const std::string& menu);
+
     HWND Window() const { return window_; }
     // The child window of a control, for tests and the platform.
     HWND ControlWindow(const std::string& name) const;
@@ -44,6 +49,10 @@ private:
     };
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OnCommand(int id, int notification);
+    void OnMenu(int id);
+    // The visible items under parent ("" for the menu bar), their sub-menus within.
+    HMENU BuildMenu(const std::string& parent, bool bar) const;
+    void SyncMenuBar();
     void SyncChild(Child& child);
     void Place(HWND window, int left, int top, int width, int height) const;
 

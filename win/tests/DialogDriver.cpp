@@ -12,6 +12,11 @@ DialogDriver::DialogDriver(std::wstring caption, Action action)
     timer_ = SetTimer(nullptr, 0, 20, &DialogDriver::Tick);
 }
 
+DialogDriver::DialogDriver(WindowClass windowClass, Action action)
+    : DialogDriver(std::wstring(), std::move(action)) {
+    windowClass_ = windowClass.name;
+}
+
 DialogDriver::~DialogDriver() {
     if (timer_) KillTimer(nullptr, timer_);
     current = nullptr;
@@ -20,7 +25,8 @@ DialogDriver::~DialogDriver() {
 void CALLBACK DialogDriver::Tick(HWND, UINT, UINT_PTR, DWORD) {
     DialogDriver* self = current;
     if (!self || self->acted_) return;
-    HWND window = FindWindowW(nullptr, self->caption_.c_str());
+    HWND window = self->windowClass_ ? FindWindowW(self->windowClass_, nullptr)
+                                     : FindWindowW(nullptr, self->caption_.c_str());
     if (!window) return;
     self->acted_ = true;
     KillTimer(nullptr, self->timer_);

@@ -7,6 +7,7 @@
 #include "ui/Form.h"
 #include "ui/win32/FormWindow.h"
 #include "ui/win32/Twips.h"
+#include "win/tests/DialogDriver.h"
 
 namespace ui::win32 {
 namespace {
@@ -46,6 +47,8 @@ public:
         TW_ON(lstNames, Click);
         TW_ON(lstNames, DblClick);
         TW_ON(txtName, Change);
+        TW_ON_MENU(mnuOpen);
+        TW_ON_MENU(mnuRow);
     }
     std::vector<std::string> log;
     bool refuseClosing = false;
@@ -68,6 +71,13 @@ private:
         Control& names = Place("lstNames", ControlKind::ListBox, "", 3240, 1080, 2400, 1500);
         names.AddItem("Frame");
         names.AddItem("Bracket");
+        AddMenu("mnuFile", "&File");
+        AddMenu("mnuOpen", "&Open", "mnuFile");
+        AddMenu("mnuRecent", "Recent", "mnuFile").Checked = true;
+        AddMenu("mnuExit", "E&xit", "mnuFile").Enabled = false;
+        AddMenu("mnuPopUp", "PopUp").Visible = false;  // shown over the list only
+        AddMenu("mnuRow", "Lock", "mnuPopUp", 0);
+        AddMenu("mnuRow", "Unlock", "mnuPopUp", 1);
     }
     void Form_QueryUnload(bool& cancel) override { cancel = refuseClosing; }
     void cmdGo_Click() {
@@ -81,6 +91,8 @@ private:
     void lstNames_DblClick() {
         log.push_back("open " + (*this)["lstNames"].Items[(*this)["lstNames"].ListIndex]);
     }
+    void mnuOpen_Click() { log.push_back("menu open"); }
+    void mnuRow_Click(int index) { log.push_back("menu row " + std::to_string(index)); }
     void txtName_Change() { log.push_back("text " + (*this)["txtName"].Text()); }
 };
 
@@ -165,6 +177,39 @@ TEST_F(FormWindowTest, ClosingAsksTheForm) {
     form.refuseClosing = false;
     SendMessageW(window.Window(), WM_CLOSE, 0, 0);
     EXPECT_FALSE(form.Loaded());
+}
+
+std::wstring MenuText(HMENU menu, int position) {
+    wchar_t text[64] = L"";
+    GetMenuStringW(menu, position, text, 64, MF_BYPOSITION);
+    return text;
+}
+
+TEST_F(FormWindowTest, TheMenuBarShowsTheVisibleMenusAndAChoiceClicksTheItem) {
+    HMENU bar = GetMenu(window.Window());
+    ASSERT_EQ(GetMenuItemCount(bar), 1) << "the pop-up menu stays off the bar";
+    EXPECT_EQ(MenuText(bar, 0), L"&File");
+    HMENU file = GetSubMenu(bar, 0);
+    ASSERT_EQ(GetMenuItemCount(file), 3);
+    EXPECT_EQ(MenuText(file, 0), L"&Open");
+    EXPECT_TRUE(GetMenuState(file, 1, MF_BYPOSITION) & MF_CHECKED);
+    EXPECT_TRUE(GetMenuState(file, 2, MF_BYPOSITION) & MF_GRAYED);
+
+    SendMessageW(window.Window(), WM_COMMAND, MAKEWPARAM(GetMenuItemID(file, 0), 0), 0);
+    EXPECT_EQ(form.log, (std::vector<std::string>{"menu open"}));
+}
+
+TEST_F(FormWindowTest, APopUpMenuClicksTheItemTheUserPicks) {
+    // The user moves down two items and presses Enter; then leaves the next pop-up.
+    tests::DialogDriver person(tests::WindowClass{L"#32768"}, [](HWND menu) {
+        for (WPARAM key : {VK_DOWN, VK_DOWN, VK_RETURN}) PostMessageW(menu, WM_KEYDOWN, key, 0);
+    });
+    window.PopupMenu("mnuPopUp");
+    EXPECT_TRUE(person.Acted());
+    tests::DialogDriver leaves(tests::WindowClass{L"#32768"},
+                               [](HWND menu) { PostMessageW(menu, WM_KEYDOWN, VK_ESCAPE, 0); });
+    window.PopupMenu("mnuPopUp");
+    EXPECT_EQ(form.log, (std::vector<std::string>{"menu row 1"}));
 }
 
 }  // namespace
