@@ -12,8 +12,8 @@ foreach(arch x86_64 i686)
                -DTARNWELL_MINGW_THREADS=win32 -DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE}
     BUILD_ALWAYS ON
     INSTALL_COMMAND ""
-    BUILD_BYPRODUCTS ${dir}/win/server/Tarnwell.dll)
-  set(TARNWELL_DLL_${arch} ${dir}/win/server/Tarnwell.dll)
+    BUILD_BYPRODUCTS ${dir}/win/dll/Tarnwell.dll)
+  set(TARNWELL_DLL_${arch} ${dir}/win/dll/Tarnwell.dll)
   if(arch STREQUAL "x86_64")
     set(TARNWELL_INSTALLER_${arch} ${dir}/win/installer/Tarnwell-setup-x64.exe)
   else()
