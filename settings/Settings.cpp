@@ -70,12 +70,13 @@ std::filesystem::path IniFileStore::DefaultPath() {
 std::string IniFileStore::GetSetting(const std::string& app, const std::string& section,
                                      const std::string& key, const std::string& defaultValue) const {
     const std::string wanted = HeaderOf(app, section);
-    std::string current, k, v, found = defaultValue;
+    std::string current, k, v;
     for (const auto& line : ReadLines(file_)) {
         if (IsHeader(line, current)) continue;
-        if (current == wanted && IsEntry(line, k, v) && k == key) found = v;
+        // A key given twice counts once, the first time: the one a save changes.
+        if (current == wanted && IsEntry(line, k, v) && k == key) return v;
     }
-    return found;
+    return defaultValue;
 }
 
 void IniFileStore::SaveSetting(const std::string& app, const std::string& section, const std::string& key,

@@ -76,6 +76,12 @@ TEST_F(SettingsTest, ASaveChangesOneKeyAndKeepsEveryOtherLineAndSession) {
         "[Tarnwell\\PackNLink]\nTargetDir=D:\\Out\n");
     for (const auto& entry : std::filesystem::directory_iterator(file.parent_path()))
         EXPECT_EQ(entry.path().filename(), file.filename()) << "no temporary file is left behind";
+
+    // A key a person wrote twice: read and saved as one, the first (found by fuzzing).
+    std::ofstream(file) << "[Tarnwell\\Preview]\nDialogTop=10\nDialogTop=20\n";
+    EXPECT_EQ(first.GetSetting("Tarnwell", "Preview", "DialogTop", ""), "10");
+    first.SaveSetting("Tarnwell", "Preview", "DialogTop", "30");
+    EXPECT_EQ(first.GetSetting("Tarnwell", "Preview", "DialogTop", ""), "30");
 }
 
 }  // namespace
