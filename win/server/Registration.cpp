@@ -2,6 +2,7 @@
 
 #include <olectl.h>
 
+#include "win/com/RegistryKey.h"
 #include "win/server/AddInClsid.h"
 #include "win/server/HostInterfaces.h"
 
@@ -10,17 +11,7 @@ namespace win::server {
 namespace {
 const std::wstring kClsidKey = std::wstring(L"CLSID\\") + kAddInClsidText;
 
-class Key {
-public:
-    ~Key() {
-        if (h_) RegCloseKey(h_);
-    }
-    HKEY* Receive() { return &h_; }
-    HKEY Get() const { return h_; }
-
-private:
-    HKEY h_ = nullptr;
-};
+using Key = win::com::RegistryKey;
 }  // namespace
 
 std::vector<RegistryEntry> RegistrationEntries(const std::wstring& dllPath) {

@@ -5,21 +5,12 @@
 #include "support/Error.h"
 #include "support/Utf16.h"
 #include "win/com/Ole.h"
+#include "win/com/RegistryKey.h"
 
 namespace win::settings {
 
 namespace {
-class OpenKey {
-public:
-    ~OpenKey() {
-        if (h_) RegCloseKey(h_);
-    }
-    HKEY* Receive() { return &h_; }
-    HKEY Get() const { return h_; }
-
-private:
-    HKEY h_ = nullptr;
-};
+using OpenKey = win::com::RegistryKey;
 }  // namespace
 
 std::wstring RegistryStore::SectionKey(const std::string& app, const std::string& section) const {
