@@ -60,7 +60,7 @@ TEST_F(SettingsTest, DefaultPathFollowsTheEnvironment) {
 // in the file as it is then, and nothing else.
 TEST_F(SettingsTest, ASaveChangesOneKeyAndKeepsEveryOtherLineAndSession) {
     std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file)
+    std::ofstream(file, std::ios::binary)
         << "; my notes\n[Tarnwell\\Preview]\nDialogTop=10\nsomething odd\n\n[Other\\Tool]\nX=1\n";
     settings::IniFileStore first(file), second(file);
     first.SaveSetting("Tarnwell", "Preview", "DialogLeft", "20");
@@ -68,8 +68,12 @@ TEST_F(SettingsTest, ASaveChangesOneKeyAndKeepsEveryOtherLineAndSession) {
     first.SaveSetting("Tarnwell", "Preview", "DialogTop", "30");
     EXPECT_EQ(second.GetSetting("Tarnwell", "Preview", "DialogLeft", ""), "20");
     EXPECT_EQ(first.GetSetting("Tarnwell", "PackNLink", "TargetDir", ""), "D:\\Out");
-    std::ifstream in(file);
-    std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    std::string text;
+    {
+        // Closed before the file is replaced below: Windows keeps an open file from being replaced.
+        std::ifstream in(file, std::ios::binary);
+        text.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    }
     EXPECT_EQ(
         text,
         "; my notes\n[Tarnwell\\Preview]\nDialogTop=30\nsomething odd\nDialogLeft=20\n\n[Other\\Tool]\nX=1\n"
@@ -78,7 +82,7 @@ TEST_F(SettingsTest, ASaveChangesOneKeyAndKeepsEveryOtherLineAndSession) {
         EXPECT_EQ(entry.path().filename(), file.filename()) << "no temporary file is left behind";
 
     // A key a person wrote twice: read and saved as one, the first (found by fuzzing).
-    std::ofstream(file) << "[Tarnwell\\Preview]\nDialogTop=10\nDialogTop=20\n";
+    std::ofstream(file, std::ios::binary) << "[Tarnwell\\Preview]\nDialogTop=10\nDialogTop=20\n";
     EXPECT_EQ(first.GetSetting("Tarnwell", "Preview", "DialogTop", ""), "10");
     first.SaveSetting("Tarnwell", "Preview", "DialogTop", "30");
     EXPECT_EQ(first.GetSetting("Tarnwell", "Preview", "DialogTop", ""), "30");
