@@ -124,6 +124,7 @@ private:
     OccurrenceData& MutableOccurrence(std::int64_t uid);
     void Reindex() const;
     std::string FreeDefaultName(const std::string& base, std::int64_t exceptUid) const;
+    void ReleaseName(const std::string& name);
     bool IsDefaultName(const OccurrenceData& occ) const;
 
     SimState& state_;
@@ -135,6 +136,10 @@ private:
     mutable bool indexStale_ = true;
     mutable std::unordered_map<std::int64_t, std::size_t> byUid_;
     mutable std::unordered_map<std::string, std::int64_t> byName_;
+    // For each default-name base, a number below which every "base:n" is taken, so that
+    // naming thousands of occurrences of one file does not count up from 1 each time.
+    // Lowered when such a name is let go; forgotten when names go wholesale.
+    mutable std::unordered_map<std::string, long> takenBelow_;
 
     std::unordered_map<std::string, std::weak_ptr<SimOccurrence>> handles_;
     std::size_t handlesPruneAt_ = 256;
