@@ -22,6 +22,7 @@
 #include "copy/engine/RenamingWalk.h"
 #include "host/Application.h"
 #include "host/Document.h"
+#include "simhost/HostCalls.h"
 #include "simhost/SimHost.h"
 #include "ui/headless/HeadlessPlatform.h"
 
@@ -115,8 +116,16 @@ double Seconds(const std::function<void()>& work) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-void Report(const char* what, double seconds, double plain, const Folder& out) {
-    std::printf("%-34s %9.3f s  %8.1f x plain   %5ju files\n", what, seconds, seconds / plain, out.files);
+// The walk's time against the plain copy, then the host calls it made: what predicts its
+// time in the real host, where each one crosses COM.
+void Report(const char* what, double seconds, double plain, const Folder& out, int occurrences) {
+    simhost::HostCalls::Stop();
+    auto calls = static_cast<double>(simhost::HostCalls::Total());
+    std::printf("%-34s %9.3f s  %8.1f x plain   %5ju files   host calls: %.1f a file, %.2f an occurrence\n",
+                what, seconds, seconds / plain, out.files, calls / out.files, calls / occurrences);
+    for (const auto& [member, count] : simhost::HostCalls::Counts())
+        if (count >= out.files / 2)
+            std::printf("    %-36s %8.2f an occurrence\n", member.c_str(), count / double(occurrences));
 }
 
 // One stand-in host over the scratch tree, and the walks' surroundings as a dialog gives
@@ -148,6 +157,7 @@ void Run(const fs::path& root) {
 
     {
         Bench b(root);
+        simhost::HostCalls::Start();
         double s = Seconds([&] {
             // What Execute Clone does for a standalone copy of the top assembly.
             auto& app = *b.app;
@@ -162,19 +172,20 @@ void Run(const fs::path& root) {
             work->Save();
             work->Close();
         });
-        Report("clone (RecurseOccurrences)", s, plain, Measure(root / "Clone"));
+        Report("clone (RecurseOccurrences)", s, plain, Measure(root / "Clone"), occurrences);
     }
     for (bool fromDisk : {false, true}) {
         Bench b(root);
         auto source = fromDisk ? copy::PackSource::Disk : copy::PackSource::Memory;
         bool stop = false;
         std::string folder = fromDisk ? "PackDisk" : "PackMemory";
+        simhost::HostCalls::Start();
         double s = Seconds([&] {
             auto top = b.app->Documents()->Open("C:\\Src\\Top.iam", true);
             copy::PackDocument(b.Context(), *top, "C:\\" + folder, source, stop);
         });
         Report(fromDisk ? "pack disk to disk (PackDocument)" : "pack from memory (PackDocument)", s, plain,
-               Measure(root / folder));
+               Measure(root / folder), occurrences);
         if (b.log.str().find("Stopping Pack N Link") != std::string::npos)
             std::printf("  the pack stopped early: \"Stopping Pack N Link\"\n");
     }
