@@ -32,7 +32,7 @@ public:
 
     std::pair<iterator, bool> emplace(const Key& key, T&& value) {
         if (auto found = find(key); found != this->end()) return {found, false};
-        index_.emplace(key, this->size());
+        if (this->size() >= kListedUpTo) index_.emplace(key, this->size());
         this->emplace_back(key, std::move(value));
         return {std::prev(this->end()), true};
     }
@@ -57,6 +57,11 @@ public:
 private:
     // The key's place in the list, or the list's size when absent.
     std::size_t Position(const Key& key) const {
+        if (this->size() <= kListedUpTo) {  // a few keys: a search costs less than an index
+            for (std::size_t i = 0; i < this->size(); ++i)
+                if ((this->begin() + i)->first == key) return i;
+            return this->size();
+        }
         if (index_.size() != this->size()) {
             index_.clear();
             for (std::size_t i = 0; i < this->size(); ++i) index_.emplace((this->begin() + i)->first, i);
@@ -64,6 +69,7 @@ private:
         auto it = index_.find(key);
         return it == index_.end() ? this->size() : it->second;
     }
+    static constexpr std::size_t kListedUpTo = 16;
     mutable std::unordered_map<Key, std::size_t> index_;
 };
 
