@@ -10,6 +10,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -162,10 +163,16 @@ PerFile Run(const fs::path& root, int files) {
     int occurrences = GenerateTree(root / "Src", Shape(files));
     for (const char* target : {"Clone", "PackMemory", "PackDisk"}) fs::create_directories(root / target);
     Folder tree = Measure(root / "Src");
-    std::printf("tree: %ju files, %d occurrences, %.1f MB in %s\n", tree.files, occurrences,
-                tree.bytes / 1e6, root.string().c_str());
+    std::printf("tree: %ju files, %d occurrences, %.1f MB in %s\n", tree.files, occurrences, tree.bytes / 1e6,
+                root.string().c_str());
 
-    double plain = Seconds([&] { fs::copy(root / "Src", root / "Plain", fs::copy_options::recursive); });
+    // The plain copy is short and the machine's other work shows in it: the best of five.
+    double plain = 1e9;
+    for (int i = 0; i < 5; ++i) {
+        fs::remove_all(root / "Plain");
+        plain = std::min(
+            plain, Seconds([&] { fs::copy(root / "Src", root / "Plain", fs::copy_options::recursive); }));
+    }
     std::printf("%-34s %9.3f s\n", "plain copy (std::filesystem::copy)", plain);
     perFile.plain = plain / tree.files;
 
