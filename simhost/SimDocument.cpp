@@ -63,6 +63,7 @@ void SimDocument::Restore(DocData data, bool dirty) {
     dirty_ = dirty;
     indexStale_ = true;
     takenBelow_.clear();
+    PropertiesMoved();
     if (!session.loaded) return;
     auto adopt = [&](FileRef& ref) {
         ref.doc = state_.documents.Adopt(ref.doc);
@@ -97,6 +98,12 @@ void SimDocument::RequireAssembly(const char* member) const {
     if (data_.kind != DocKind::Assembly)
         throw Error(errors::kFail, std::string(member) + " is only available on an assembly; " +
                                        DisplayName() + " is a " + KindName(data_.kind));
+}
+
+PropertyIndex& SimDocument::PropertiesOf(std::size_t set) const {
+    if (propertyIndex_.size() != data_.propertySets.size())
+        propertyIndex_.assign(data_.propertySets.size(), {});
+    return propertyIndex_.at(set);
 }
 
 // --- occurrences
