@@ -1,6 +1,10 @@
 // The tarnwell executable: plays a session script against the stand-in host, or reads
 // the same lines from the keyboard.
 #include <unistd.h>
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
 
 #include <fstream>
 #include <iostream>
@@ -54,6 +58,10 @@ int RunShell() {
 }  // namespace
 
 int main(int argc, char** argv) {
+#ifdef _WIN32
+    // Transcripts are compared byte for byte with the Linux ones: no "\r" before each "\n".
+    _setmode(_fileno(stdout), _O_BINARY);
+#endif
     std::string command = argc > 1 ? argv[1] : "";
     if (command == "--version" && argc == 2) {
         std::cout << "tarnwell " << TARNWELL_VERSION << "\n";
