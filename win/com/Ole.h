@@ -4,4 +4,6 @@
 #include <windows.h>
 #include <ole2.h>
 #include <oleauto.h>
+#include <ocidl.h>
+#include <olectl.h>
 // clang-format on
