@@ -1,6 +1,7 @@
 #include "simhost/SimApplication.h"
 
 #include "host/Codes.h"
+#include "simhost/HostCalls.h"
 #include "simhost/SimCommands.h"
 #include "simhost/SimComponent.h"
 #include "simhost/SimDocument.h"
@@ -41,19 +42,23 @@ DocKind KindOfType(std::int32_t documentType) {
 // --- documents
 
 std::int32_t SimDocuments::Count() const {
+    SIM_HOST_CALL("Documents.Count");
     return state_.documents.Count();
 }
 
 host::DocumentPtr SimDocuments::Item(std::int32_t index) {
+    SIM_HOST_CALL("Documents.Item");
     return state_.documents.Item(index);
 }
 
 host::DocumentPtr SimDocuments::Open(const std::string& fullFileName, bool openVisible) {
+    SIM_HOST_CALL("Documents.Open");
     return state_.documents.Open(fullFileName, openVisible);
 }
 
 host::DocumentPtr SimDocuments::Add(std::int32_t documentType, const std::string& templateFileName,
                                     bool createVisible) {
+    SIM_HOST_CALL("Documents.Add");
     return state_.documents.Add(KindOfType(documentType), templateFileName, createVisible);
 }
 
@@ -68,10 +73,12 @@ SimApplication::SimApplication(SimState& state)
       sketch_(std::make_shared<SimSketch>()) {}
 
 std::shared_ptr<host::Document> SimApplication::ActiveDocument() {
+    SIM_HOST_CALL("Application.ActiveDocument");
     return state_.documents.Active();
 }
 
 host::ObjectPtr SimApplication::ActiveEditObject() {
+    SIM_HOST_CALL("Application.ActiveEditObject");
     auto active = state_.documents.Active();
     if (!active) return nullptr;
     switch (state_.editMode) {
@@ -86,36 +93,44 @@ host::ObjectPtr SimApplication::ActiveEditObject() {
 }
 
 std::shared_ptr<host::View> SimApplication::ActiveView() {
+    SIM_HOST_CALL("Application.ActiveView");
     auto active = state_.documents.Active();
     return active ? std::make_shared<SimView>(active) : nullptr;
 }
 
 std::shared_ptr<host::CommandManager> SimApplication::CommandManager() {
+    SIM_HOST_CALL("Application.CommandManager");
     return state_.commands;
 }
 
 std::shared_ptr<host::UserInterfaceManager> SimApplication::UserInterfaceManager() {
+    SIM_HOST_CALL("Application.UserInterfaceManager");
     return state_.commands;
 }
 
 std::string SimApplication::StatusBarText() const {
+    SIM_HOST_CALL("Application.StatusBarText");
     return state_.statusBar;
 }
 
 void SimApplication::SetStatusBarText(const std::string& text) {
+    SIM_HOST_CALL("Application.SetStatusBarText");
     state_.statusBar = text;
     if (state_.observer) state_.observer->StatusBarText(text);
 }
 
 bool SimApplication::SilentOperation() const {
+    SIM_HOST_CALL("Application.SilentOperation");
     return state_.silent;
 }
 
 void SimApplication::SetSilentOperation(bool silent) {
+    SIM_HOST_CALL("Application.SetSilentOperation");
     state_.silent = silent;
 }
 
 std::int32_t SimApplication::SoftwareVersionMajor() const {
+    SIM_HOST_CALL("Application.SoftwareVersionMajor");
     return state_.softwareVersion;
 }
 
@@ -146,12 +161,14 @@ std::shared_ptr<SimOccurrence> SimApplication::FindOccurrence(const std::string&
 // --- site
 
 std::shared_ptr<host::Application> SimSite::Application() {
+    SIM_HOST_CALL("AddInSite.Application");
     return state_.application;
 }
 
 std::shared_ptr<host::ButtonDefinition> SimSite::CreateButtonDefinition(
     const std::string& internalName, std::int32_t classification, const std::string& displayName,
     const std::string& description, const std::string& tooltip, bool withIcon) {
+    SIM_HOST_CALL("AddInSite.CreateButtonDefinition");
     if (withIcon && state_.refuseIcons)
         throw Error(errors::kUnexpected, "The host refused the icon of \"" + internalName + "\"");
     auto definition = std::make_shared<SimButtonDefinition>(internalName, displayName, withIcon);

@@ -1,6 +1,7 @@
 #include "simhost/SimAttributes.h"
 
 #include "host/Codes.h"
+#include "simhost/HostCalls.h"
 #include "simhost/SimDocument.h"
 #include "support/Error.h"
 
@@ -49,10 +50,12 @@ bool OfValueType(const Variant& v, std::int32_t valueType) {
 }  // namespace
 
 Variant SimAttribute::Value() const {
+    SIM_HOST_CALL("Attribute.Value");
     return Existing(*doc_, set_, name_).value;
 }
 
 void SimAttribute::SetValue(const Variant& value) {
+    SIM_HOST_CALL("Attribute.SetValue");
     const StoredAttribute& current = Existing(*doc_, set_, name_);
     if (value.Type() == VariantType::Empty || value.Type() == VariantType::Object)
         throw Error(errors::kTypeMismatch, "Type mismatch: an attribute takes a plain value");
@@ -62,17 +65,20 @@ void SimAttribute::SetValue(const Variant& value) {
 }
 
 bool SimAttributeSet::NameIsUsed(const std::string& attributeName) const {
+    SIM_HOST_CALL("AttributeSet.NameIsUsed");
     const auto* set = FindNamed(doc_->Data().attributeSets, name_);
     return set && FindNamed(set->attributes, attributeName);
 }
 
 std::shared_ptr<host::Attribute> SimAttributeSet::Item(const std::string& attributeName) {
+    SIM_HOST_CALL("AttributeSet.Item");
     Existing(*doc_, name_, attributeName);
     return std::make_shared<SimAttribute>(doc_, name_, attributeName);
 }
 
 std::shared_ptr<host::Attribute> SimAttributeSet::Add(const std::string& attributeName,
                                                       std::int32_t valueType, const Variant& value) {
+    SIM_HOST_CALL("AttributeSet.Add");
     if (!FindNamed(doc_->Data().attributeSets, name_))
         throw Error(errors::kFail,
                     "The attribute set \"" + name_ + "\" no longer exists in " + doc_->DisplayName());
@@ -90,16 +96,19 @@ std::shared_ptr<host::Attribute> SimAttributeSet::Add(const std::string& attribu
 }
 
 bool SimAttributeSets::NameIsUsed(const std::string& setName) const {
+    SIM_HOST_CALL("AttributeSets.NameIsUsed");
     return FindNamed(doc_->Data().attributeSets, setName);
 }
 
 std::shared_ptr<host::AttributeSet> SimAttributeSets::Item(const std::string& setName) {
+    SIM_HOST_CALL("AttributeSets.Item");
     if (!NameIsUsed(setName))
         throw Error(errors::kInvalidArg, "No attribute set \"" + setName + "\" in " + doc_->DisplayName());
     return std::make_shared<SimAttributeSet>(doc_, setName);
 }
 
 std::shared_ptr<host::AttributeSet> SimAttributeSets::Add(const std::string& setName) {
+    SIM_HOST_CALL("AttributeSets.Add");
     if (setName.empty()) throw Error(errors::kInvalidArg, "An attribute set needs a name");
     doc_->RequireStorable(setName);
     if (NameIsUsed(setName))

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/Codes.h"
+#include "simhost/HostCalls.h"
 #include "support/Error.h"
 
 using support::Error;
@@ -45,10 +46,12 @@ const std::vector<HostBar>& HostBars() {
 // --- bars
 
 std::shared_ptr<host::CommandBarControls> SimCommandBar::Controls() {
+    SIM_HOST_CALL("CommandBar.Controls");
     return shared_from_this();
 }
 
 std::shared_ptr<host::CommandBarControl> SimCommandBar::Item(std::int32_t index) {
+    SIM_HOST_CALL("CommandBarControls.Item");
     if (index < 1 || index > Count())
         throw Error(errors::kInvalidArg, name_ + ": no control at " + std::to_string(index));
     return controls_[index - 1];
@@ -56,6 +59,7 @@ std::shared_ptr<host::CommandBarControl> SimCommandBar::Item(std::int32_t index)
 
 std::shared_ptr<host::CommandBarControl> SimCommandBar::Add(
     std::int32_t controlType, std::shared_ptr<host::ButtonDefinition> definition) {
+    SIM_HOST_CALL("CommandBarControls.Add");
     if (controlType != host::kBarControlButton)
         throw Error(errors::kInvalidArg,
                     name_ + ": control type " + std::to_string(controlType) + " is not supported");
@@ -79,12 +83,14 @@ std::shared_ptr<SimCommandBar> CommandState::NewBar(const std::string& name) {
 }
 
 std::shared_ptr<host::CommandBar> CommandState::Item(const std::string& name) {
+    SIM_HOST_CALL("CommandBars.Item");
     for (const auto& bar : bars_)
         if (bar->Name() == name) return bar;
     throw Error(errors::kInvalidArg, "CommandBars.Item: no command bar named \"" + name + "\"");
 }
 
 std::shared_ptr<host::CommandBar> CommandState::Add(const std::string& name) {
+    SIM_HOST_CALL("CommandBars.Add");
     for (const auto& bar : bars_)
         if (bar->Name() == name)
             throw Error(errors::kInvalidArg, "CommandBars.Add: a command bar named \"" + name + "\" exists");
@@ -92,6 +98,7 @@ std::shared_ptr<host::CommandBar> CommandState::Add(const std::string& name) {
 }
 
 std::shared_ptr<host::CommandBars> CommandState::CommandBars() {
+    SIM_HOST_CALL("UserInterfaceManager.CommandBars");
     return shared_from_this();
 }
 
@@ -153,14 +160,17 @@ void SimSelectEvents::Select(const host::ObjectList& entities) {
 }
 
 void SimInteractionEvents::Start() {
+    SIM_HOST_CALL("InteractionEvents.Start");
     commands_.Started(*this);
 }
 
 void SimInteractionEvents::Stop() {
+    SIM_HOST_CALL("InteractionEvents.Stop");
     commands_.Stopped(*this);
 }
 
 std::shared_ptr<host::InteractionEvents> CommandState::CreateInteractionEvents() {
+    SIM_HOST_CALL("CommandManager.CreateInteractionEvents");
     ++created_;
     return std::make_shared<SimInteractionEvents>(*this);
 }

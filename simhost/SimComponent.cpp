@@ -2,6 +2,7 @@
 
 #include <unordered_map>
 
+#include "simhost/HostCalls.h"
 #include "simhost/SimAttributes.h"
 #include "simhost/SimDocument.h"
 #include "simhost/SimState.h"
@@ -70,34 +71,42 @@ const OccurrenceData& SimOccurrence::Data() const {
 }
 
 std::int32_t SimOccurrence::Type() const {
+    SIM_HOST_CALL("ComponentOccurrence.Type");
     return path_.size() == 1 ? host::kComponentOccurrenceObject : host::kComponentOccurrenceProxyObject;
 }
 
 std::string SimOccurrence::Name() const {
+    SIM_HOST_CALL("ComponentOccurrence.Name");
     return Data().name;
 }
 
 void SimOccurrence::SetName(const std::string& name) {
+    SIM_HOST_CALL("ComponentOccurrence.SetName");
     Parent().RenameOccurrence(path_.back(), name);
 }
 
 bool SimOccurrence::Visible() const {
+    SIM_HOST_CALL("ComponentOccurrence.Visible");
     return Data().visible;
 }
 
 void SimOccurrence::SetVisible(bool visible) {
+    SIM_HOST_CALL("ComponentOccurrence.SetVisible");
     Parent().SetOccurrenceVisible(path_.back(), visible);
 }
 
 bool SimOccurrence::Grounded() const {
+    SIM_HOST_CALL("ComponentOccurrence.Grounded");
     return Data().grounded;
 }
 
 void SimOccurrence::SetGrounded(bool grounded) {
+    SIM_HOST_CALL("ComponentOccurrence.SetGrounded");
     Parent().SetOccurrenceGrounded(path_.back(), grounded);
 }
 
 host::Matrix SimOccurrence::Transformation() const {
+    SIM_HOST_CALL("ComponentOccurrence.Transformation");
     host::Matrix placement;
     const SimDocument* doc = context_.get();
     for (std::int64_t uid : path_) {
@@ -109,19 +118,23 @@ host::Matrix SimOccurrence::Transformation() const {
 }
 
 std::shared_ptr<host::ComponentDefinition> SimOccurrence::Definition() {
+    SIM_HOST_CALL("ComponentOccurrence.Definition");
     return Data().ref.doc->Definition();
 }
 
 std::shared_ptr<host::ComponentOccurrences> SimOccurrence::SubOccurrences() {
+    SIM_HOST_CALL("ComponentOccurrence.SubOccurrences");
     Data();
     return std::make_shared<SimOccurrences>(context_, path_);
 }
 
 void SimOccurrence::Delete() {
+    SIM_HOST_CALL("ComponentOccurrence.Delete");
     Parent().RemoveOccurrence(path_.back());
 }
 
 void SimOccurrence::Replace(const std::string& fullFileName, bool replaceAll) {
+    SIM_HOST_CALL("ComponentOccurrence.Replace");
     SimDocument& parent = Parent();
     Data();
     SimDocumentPtr target = parent.State().documents.Reference(fullFileName);
@@ -141,10 +154,12 @@ SimDocument& SimOccurrences::Holder() const {
 }
 
 std::int32_t SimOccurrences::Count() const {
+    SIM_HOST_CALL("ComponentOccurrences.Count");
     return static_cast<std::int32_t>(Holder().Data().occurrences.size());
 }
 
 std::shared_ptr<host::ComponentOccurrence> SimOccurrences::Item(std::int32_t index) {
+    SIM_HOST_CALL("ComponentOccurrences.Item");
     const auto& list = Holder().Data().occurrences;
     if (index < 1 || index > static_cast<std::int32_t>(list.size()))
         throw Error(errors::kInvalidArg, "Occurrences.Item: no occurrence at " + std::to_string(index));
@@ -155,6 +170,7 @@ std::shared_ptr<host::ComponentOccurrence> SimOccurrences::Item(std::int32_t ind
 
 std::shared_ptr<host::ComponentOccurrence> SimOccurrences::Add(const std::string& fullFileName,
                                                                const host::Matrix& position) {
+    SIM_HOST_CALL("ComponentOccurrences.Add");
     if (!prefix_.empty())
         throw Error(errors::kFail,
                     "Occurrences cannot be added through a proxy; edit the sub-assembly itself");
@@ -172,33 +188,40 @@ std::shared_ptr<host::ComponentOccurrence> SimOccurrences::Add(const std::string
 // --- definition
 
 std::int32_t SimComponentDefinition::Type() const {
+    SIM_HOST_CALL("ComponentDefinition.Type");
     return doc_->Data().kind == DocKind::Part ? host::kPartComponentDefinitionObject
                                               : host::kAssemblyComponentDefinitionObject;
 }
 
 std::shared_ptr<host::Document> SimComponentDefinition::Document() {
+    SIM_HOST_CALL("ComponentDefinition.Document");
     return doc_;
 }
 
 std::shared_ptr<host::ComponentOccurrences> SimComponentDefinition::Occurrences() {
+    SIM_HOST_CALL("ComponentDefinition.Occurrences");
     return std::make_shared<SimOccurrences>(doc_, std::vector<std::int64_t>{});
 }
 
 std::shared_ptr<host::MassProperties> SimComponentDefinition::MassProperties() {
+    SIM_HOST_CALL("ComponentDefinition.MassProperties");
     std::unordered_map<const SimDocument*, Weight> memo;
     return std::make_shared<FixedMassProperties>(Weigh(*doc_, memo));
 }
 
 std::shared_ptr<host::AttributeSets> SimComponentDefinition::AttributeSets() {
+    SIM_HOST_CALL("ComponentDefinition.AttributeSets");
     return std::make_shared<SimAttributeSets>(doc_);
 }
 
 std::shared_ptr<host::Material> SimComponentDefinition::Material() {
+    SIM_HOST_CALL("ComponentDefinition.Material");
     RequirePartDefinition("Material");
     return doc_->ActiveMaterial();
 }
 
 void SimComponentDefinition::SetMaterial(const std::shared_ptr<host::Material>& material) {
+    SIM_HOST_CALL("ComponentDefinition.SetMaterial");
     RequirePartDefinition("Material");
     std::string name = support::Required(material, "material")->Name();
     if (!styles::FindMaterial(doc_->Data(), name))
@@ -212,10 +235,12 @@ void SimComponentDefinition::RequirePartDefinition(const char* member) const {
 }
 
 bool SimComponentDefinition::IsiPartMember() const {
+    SIM_HOST_CALL("ComponentDefinition.IsiPartMember");
     return !doc_->Data().iPartFactory.empty();
 }
 
 void SimComponentDefinition::BreakLinkToFactory() {
+    SIM_HOST_CALL("ComponentDefinition.BreakLinkToFactory");
     if (!IsiPartMember()) throw Error(errors::kFail, doc_->DisplayName() + " is not an iPart member");
     doc_->Edit().iPartFactory.clear();
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "simhost/HostCalls.h"
 #include "simhost/HostNames.h"
 #include "simhost/SimComponent.h"
 #include "simhost/SimDrawing.h"
@@ -280,6 +281,7 @@ std::shared_ptr<SimComponentDefinition> SimDocument::Definition() {
 // --- host::Document
 
 std::int32_t SimDocument::Type() const {
+    SIM_HOST_CALL("Document.Type");
     switch (data_.kind) {
         case DocKind::Part:
             return host::kPartDocumentObjectType;
@@ -294,56 +296,69 @@ std::int32_t SimDocument::Type() const {
 }
 
 std::string SimDocument::DisplayName() const {
+    SIM_HOST_CALL("Document.DisplayName");
     if (!data_.displayName.empty()) return data_.displayName;
     return fullFileName_.empty() ? session.untitledName : winpath::FileNamePart(fullFileName_);
 }
 
 void SimDocument::SetDisplayName(const std::string& name) {
+    SIM_HOST_CALL("Document.SetDisplayName");
     RequireStorable(name);
     if (name != data_.displayName) Edit().displayName = name;
 }
 
 void SimDocument::SaveAs(const std::string& fullFileName, bool saveCopyAs) {
+    SIM_HOST_CALL("Document.SaveAs");
     state_.documents.SaveAs(*this, fullFileName, saveCopyAs);
 }
 
 void SimDocument::Save() {
+    SIM_HOST_CALL("Document.Save");
     state_.documents.Save(*this);
 }
 
 void SimDocument::Close(bool skipSave) {
+    SIM_HOST_CALL("Document.Close");
     state_.documents.Close(*this, skipSave);
 }
 
 bool SimDocument::IsModifiable() const {
+    SIM_HOST_CALL("Document.IsModifiable");
     return data_.modifiable && !NeedsMigrating();
 }
 
 bool SimDocument::NeedsMigrating() const {
+    SIM_HOST_CALL("Document.NeedsMigrating");
     return data_.savedBy < state_.softwareVersion;
 }
 
 bool SimDocument::ReservedForWrite() const {
+    SIM_HOST_CALL("Document.ReservedForWrite");
     return !data_.reservedBy.empty() && data_.reservedBy != state_.userName;
 }
 
 std::string SimDocument::ReservedForWriteName() const {
+    SIM_HOST_CALL("Document.ReservedForWriteName");
     return ReservedForWrite() ? data_.reservedBy : "";
 }
 
 void SimDocument::SetDisabledCommandTypes(std::int32_t types) {
+    SIM_HOST_CALL("Document.SetDisabledCommandTypes");
     if (types != data_.disabledCommandTypes) Edit().disabledCommandTypes = types;
 }
 
 std::shared_ptr<host::PropertySets> SimDocument::PropertySets() {
+    SIM_HOST_CALL("Document.PropertySets");
     return std::make_shared<SimPropertySets>(shared_from_this());
 }
 
 std::shared_ptr<host::UnitsOfMeasure> SimDocument::UnitsOfMeasure() {
+    SIM_HOST_CALL("Document.UnitsOfMeasure");
     return std::make_shared<SimUnitsOfMeasure>(shared_from_this());
 }
 
 std::shared_ptr<host::ComponentDefinition> SimDocument::ComponentDefinition() {
+    SIM_HOST_CALL("Document.ComponentDefinition");
     if (data_.kind != DocKind::Part && data_.kind != DocKind::Assembly)
         throw Error(errors::kFail, "A " + std::string(KindName(data_.kind)) +
                                        " has no component definition: " + DisplayName());
@@ -351,6 +366,7 @@ std::shared_ptr<host::ComponentDefinition> SimDocument::ComponentDefinition() {
 }
 
 std::vector<host::DocumentPtr> SimDocument::ReferencedDocuments() {
+    SIM_HOST_CALL("Document.ReferencedDocuments");
     std::vector<host::DocumentPtr> out;
     std::unordered_set<const SimDocument*> seen;
     auto add = [&](const FileRef& ref) {
@@ -362,17 +378,20 @@ std::vector<host::DocumentPtr> SimDocument::ReferencedDocuments() {
 }
 
 std::string SimDocument::Thumbnail() const {
+    SIM_HOST_CALL("Document.Thumbnail");
     const char* name = data_.thumbnail ? names::Orientation(data_.thumbnail) : nullptr;
     return name ? name : "";
 }
 
 std::shared_ptr<host::Materials> SimDocument::Materials() {
+    SIM_HOST_CALL("Document.Materials");
     RequirePart("Materials");
     return std::make_shared<SimMaterials>(shared_from_this());
 }
 
 // Parts and assemblies keep render styles; an assembly's are never in use here.
 std::shared_ptr<host::RenderStyles> SimDocument::RenderStyles() {
+    SIM_HOST_CALL("Document.RenderStyles");
     if (data_.kind != DocKind::Part && data_.kind != DocKind::Assembly)
         throw Error(errors::kFail, std::string("RenderStyles is only available on a part or an assembly; ") +
                                        DisplayName() + " is a " + KindName(data_.kind));
@@ -380,6 +399,7 @@ std::shared_ptr<host::RenderStyles> SimDocument::RenderStyles() {
 }
 
 void SimDocument::SetActiveRenderStyle(const std::shared_ptr<host::RenderStyle>& style) {
+    SIM_HOST_CALL("Document.SetActiveRenderStyle");
     RequirePart("ActiveRenderStyle");
     std::string name = support::Required(style, "render style")->Name();
     if (!styles::FindRenderStyle(data_, name))
@@ -388,6 +408,7 @@ void SimDocument::SetActiveRenderStyle(const std::shared_ptr<host::RenderStyle>&
 }
 
 std::shared_ptr<host::Material> SimDocument::ActiveMaterial() {
+    SIM_HOST_CALL("Document.ActiveMaterial");
     RequirePart("ActiveMaterial");
     if (data_.material.empty()) throw Error(errors::kFail, DisplayName() + " has no material");
     if (!styles::FindMaterial(data_, data_.material))
@@ -397,6 +418,7 @@ std::shared_ptr<host::Material> SimDocument::ActiveMaterial() {
 }
 
 std::shared_ptr<host::RenderStyle> SimDocument::ActiveRenderStyle() {
+    SIM_HOST_CALL("Document.ActiveRenderStyle");
     RequirePart("ActiveRenderStyle");
     std::string name = styles::ActiveRenderStyleName(data_);
     if (name.empty()) throw Error(errors::kFail, DisplayName() + " has no render style");
@@ -407,11 +429,13 @@ std::shared_ptr<host::RenderStyle> SimDocument::ActiveRenderStyle() {
 }
 
 std::shared_ptr<host::DrawingSettings> SimDocument::DrawingSettings() {
+    SIM_HOST_CALL("Document.DrawingSettings");
     RequireDrawing("DrawingSettings");
     return std::make_shared<SimDrawingSettings>(shared_from_this());
 }
 
 std::shared_ptr<host::Collection<host::TitleBlockDefinition>> SimDocument::TitleBlockDefinitions() {
+    SIM_HOST_CALL("Document.TitleBlockDefinitions");
     RequireDrawing("TitleBlockDefinitions");
     return std::make_shared<SimTitleBlockDefinitions>(shared_from_this());
 }

@@ -1,5 +1,6 @@
 #include "simhost/SimDrawing.h"
 
+#include "simhost/HostCalls.h"
 #include "simhost/SimDocument.h"
 #include "support/Error.h"
 
@@ -61,18 +62,22 @@ private:
 }  // namespace
 
 bool SimDrawingSettings::DeferUpdates() const {
+    SIM_HOST_CALL("DrawingSettings.DeferUpdates");
     return doc_->Data().deferUpdates;
 }
 
 void SimDrawingSettings::SetDeferUpdates(bool defer) {
+    SIM_HOST_CALL("DrawingSettings.SetDeferUpdates");
     if (doc_->Data().deferUpdates != defer) doc_->Edit().deferUpdates = defer;
 }
 
 std::int32_t SimTitleBlockDefinitions::Count() const {
+    SIM_HOST_CALL("TitleBlockDefinitions.Count");
     return static_cast<std::int32_t>(doc_->Data().titleBlocks.size());
 }
 
 std::shared_ptr<host::TitleBlockDefinition> SimTitleBlockDefinitions::Item(std::int32_t index) {
+    SIM_HOST_CALL("TitleBlockDefinitions.Item");
     if (index < 1 || index > Count())
         throw Error(errors::kInvalidCall,
                     "The title block index " + std::to_string(index) + " is out of range");

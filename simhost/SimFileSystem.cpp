@@ -4,6 +4,7 @@
 #include <iterator>
 #include <sstream>
 
+#include "simhost/HostCalls.h"
 #include "simhost/SimHost.h"
 #include "simhost/WinPath.h"
 #include "support/Error.h"
@@ -105,20 +106,24 @@ void SimFileSystem::WriteWhole(const VirtualDrive::Resolved& target, std::string
 }
 
 bool SimFileSystem::FileExists(const std::string& path) const {
+    SIM_HOST_CALL("FileSystem.FileExists");
     auto r = drive_.Resolve(path);
     return r.exists && !r.isFolder;
 }
 
 bool SimFileSystem::FolderExists(const std::string& path) const {
+    SIM_HOST_CALL("FileSystem.FolderExists");
     auto r = drive_.Resolve(path);
     return r.exists && r.isFolder;
 }
 
 bool SimFileSystem::IsReadOnly(const std::string& path) const {
+    SIM_HOST_CALL("FileSystem.IsReadOnly");
     return HostReadOnly(ExistingFile(path).hostPath);
 }
 
 void SimFileSystem::SetReadOnly(const std::string& path, bool readOnly) {
+    SIM_HOST_CALL("FileSystem.SetReadOnly");
     auto r = ExistingFile(path);
     if (refuseWrites_)
         throw Error(errors::kPermissionDenied,
@@ -128,11 +133,13 @@ void SimFileSystem::SetReadOnly(const std::string& path, bool readOnly) {
 }
 
 std::string SimFileSystem::ReadText(const std::string& path) const {
+    SIM_HOST_CALL("FileSystem.ReadText");
     auto r = ExistingFile(path);
     return ReadBytes(r.hostPath, r.windowsPath);
 }
 
 void SimFileSystem::WriteText(const std::string& path, const std::string& text) {
+    SIM_HOST_CALL("FileSystem.WriteText");
     auto target = drive_.Resolve(path);
     CheckWriteAllowed(target);
     WriteWhole(target, text, false);
@@ -141,6 +148,7 @@ void SimFileSystem::WriteText(const std::string& path, const std::string& text) 
 
 // Copies keep the read-only attribute, as the host's own file copy does.
 void SimFileSystem::CopyFile(const std::string& source, const std::string& destination, bool overwrite) {
+    SIM_HOST_CALL("FileSystem.CopyFile");
     auto from = ExistingFile(source);
     auto to = drive_.Resolve(destination);
     if (to.exists && !to.isFolder && !overwrite)
@@ -151,6 +159,7 @@ void SimFileSystem::CopyFile(const std::string& source, const std::string& desti
 }
 
 void SimFileSystem::DeleteFile(const std::string& path) {
+    SIM_HOST_CALL("FileSystem.DeleteFile");
     auto r = ExistingFile(path);
     if (refuseWrites_)
         throw Error(errors::kPermissionDenied,
@@ -165,6 +174,7 @@ void SimFileSystem::DeleteFile(const std::string& path) {
 }
 
 void SimFileSystem::CreateFolder(const std::string& path) {
+    SIM_HOST_CALL("FileSystem.CreateFolder");
     auto r = drive_.Resolve(path);
     if (r.exists) throw Error(errors::kFileAlreadyExists, "File already exists: " + r.windowsPath);
     if (!r.parentExists) throw Error(errors::kPathNotFound, "Path not found: " + r.windowsPath);
@@ -178,6 +188,7 @@ void SimFileSystem::CreateFolder(const std::string& path) {
 }
 
 std::vector<std::string> SimFileSystem::ListFiles(const std::string& folder) const {
+    SIM_HOST_CALL("FileSystem.ListFiles");
     auto r = drive_.Resolve(folder);
     if (!r.exists || !r.isFolder) throw Error(errors::kPathNotFound, "Path not found: " + r.windowsPath);
     return drive_.FileNames(r.hostPath);

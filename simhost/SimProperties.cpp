@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <optional>
 
+#include "simhost/HostCalls.h"
 #include "simhost/PropertyCatalog.h"
 #include "simhost/SimDocument.h"
 #include "simhost/SimStyles.h"
@@ -105,6 +106,7 @@ std::string GeneratedFormatId(const std::string& name, std::size_t salt) {
 // --- property
 
 std::string SimProperty::Name() const {
+    SIM_HOST_CALL("Property.Name");
     int set = ExistingSet(*doc_, formatId_);
     if (HasDefinitions(set)) return catalog::FindById(catalog::StandardSets()[set], propId_)->name;
     for (const auto& p : doc_->Data().propertySets[set].properties)
@@ -113,6 +115,7 @@ std::string SimProperty::Name() const {
 }
 
 Variant SimProperty::Value() const {
+    SIM_HOST_CALL("Property.Value");
     int set = ExistingSet(*doc_, formatId_);
     const DocData& data = doc_->Data();
     if (set == catalog::kDesignTrackingSet && propId_ == catalog::kMaterialId && data.kind == DocKind::Part)
@@ -127,6 +130,7 @@ Variant SimProperty::Value() const {
 }
 
 void SimProperty::SetValue(const Variant& value) {
+    SIM_HOST_CALL("Property.SetValue");
     int set = ExistingSet(*doc_, formatId_);
     std::string name = Name();
     if (!PlainValue(value))
@@ -164,6 +168,7 @@ void SimProperty::SetValue(const Variant& value) {
 }
 
 void SimProperty::Delete() {
+    SIM_HOST_CALL("Property.Delete");
     int set = ExistingSet(*doc_, formatId_);
     if (HasDefinitions(set))
         throw Error(errors::kFail, "The standard property \"" + Name() + "\" cannot be deleted");
@@ -175,18 +180,21 @@ void SimProperty::Delete() {
 // --- property set
 
 std::string SimPropertySet::Name() const {
+    SIM_HOST_CALL("PropertySet.Name");
     int set = ExistingSet(*doc_, formatId_);
     return set < catalog::kStandardSetCount ? catalog::StandardSets()[set].name
                                             : doc_->Data().propertySets[set].name;
 }
 
 std::string SimPropertySet::DisplayName() const {
+    SIM_HOST_CALL("PropertySet.DisplayName");
     int set = ExistingSet(*doc_, formatId_);
     return set < catalog::kStandardSetCount ? catalog::StandardSets()[set].displayName
                                             : doc_->Data().propertySets[set].name;
 }
 
 std::int32_t SimPropertySet::Count() const {
+    SIM_HOST_CALL("PropertySet.Count");
     int set = ExistingSet(*doc_, formatId_);
     if (HasDefinitions(set)) return static_cast<std::int32_t>(catalog::StandardSets()[set].properties.size());
     return static_cast<std::int32_t>(doc_->Data().propertySets[set].properties.size());
@@ -197,6 +205,7 @@ std::shared_ptr<host::Property> SimPropertySet::Handle(std::int32_t propId) {
 }
 
 std::shared_ptr<host::Property> SimPropertySet::Item(std::int32_t position) {
+    SIM_HOST_CALL("PropertySet.Item");
     int set = ExistingSet(*doc_, formatId_);
     if (position < 1 || position > Count())
         throw Error(errors::kInvalidArg,
@@ -206,6 +215,7 @@ std::shared_ptr<host::Property> SimPropertySet::Item(std::int32_t position) {
 }
 
 std::shared_ptr<host::Property> SimPropertySet::Item(const std::string& name) {
+    SIM_HOST_CALL("PropertySet.Item");
     int set = ExistingSet(*doc_, formatId_);
     if (HasDefinitions(set)) {
         if (const auto* def = catalog::FindByName(catalog::StandardSets()[set], name)) return Handle(def->id);
@@ -218,6 +228,7 @@ std::shared_ptr<host::Property> SimPropertySet::Item(const std::string& name) {
 }
 
 std::shared_ptr<host::Property> SimPropertySet::ItemByPropId(std::int32_t propId) {
+    SIM_HOST_CALL("PropertySet.ItemByPropId");
     int set = ExistingSet(*doc_, formatId_);
     if (HasDefinitions(set)) {
         if (catalog::FindById(catalog::StandardSets()[set], propId)) return Handle(propId);
@@ -231,6 +242,7 @@ std::shared_ptr<host::Property> SimPropertySet::ItemByPropId(std::int32_t propId
 
 std::shared_ptr<host::Property> SimPropertySet::Add(const Variant& value, const std::string& name,
                                                     std::int32_t propId) {
+    SIM_HOST_CALL("PropertySet.Add");
     int set = ExistingSet(*doc_, formatId_);
     if (HasDefinitions(set)) throw Error(errors::kFail, "Properties cannot be added to " + DisplayName());
     if (!PlainValue(value))
@@ -255,6 +267,7 @@ std::shared_ptr<host::Property> SimPropertySet::Add(const Variant& value, const 
 }
 
 void SimPropertySet::Delete() {
+    SIM_HOST_CALL("PropertySet.Delete");
     int set = ExistingSet(*doc_, formatId_);
     if (set < catalog::kStandardSetCount)
         throw Error(errors::kFail, "The standard set " + DisplayName() + " cannot be deleted");
@@ -265,16 +278,19 @@ void SimPropertySet::Delete() {
 // --- property sets
 
 std::int32_t SimPropertySets::Count() const {
+    SIM_HOST_CALL("PropertySets.Count");
     return static_cast<std::int32_t>(doc_->Data().propertySets.size());
 }
 
 std::shared_ptr<host::PropertySet> SimPropertySets::Item(std::int32_t position) {
+    SIM_HOST_CALL("PropertySets.Item");
     if (position < 1 || position > Count())
         throw Error(errors::kInvalidArg, "PropertySets.Item: no property set at " + std::to_string(position));
     return std::make_shared<SimPropertySet>(doc_, doc_->Data().propertySets[position - 1].formatId);
 }
 
 std::shared_ptr<host::PropertySet> SimPropertySets::Item(const std::string& nameOrId) {
+    SIM_HOST_CALL("PropertySets.Item");
     int set = FindSet(doc_->Data(), nameOrId);
     if (set < 0) throw Error(errors::kInvalidArg, "PropertySets.Item: no property set \"" + nameOrId + "\"");
     return std::make_shared<SimPropertySet>(doc_, doc_->Data().propertySets[set].formatId);
@@ -282,6 +298,7 @@ std::shared_ptr<host::PropertySet> SimPropertySets::Item(const std::string& name
 
 std::shared_ptr<host::PropertySet> SimPropertySets::Add(const std::string& name,
                                                         const std::string& formatId) {
+    SIM_HOST_CALL("PropertySets.Add");
     if (name.empty()) throw Error(errors::kInvalidArg, "A property set needs a name");
     doc_->RequireStorable(name);
     if (FindSet(doc_->Data(), name) >= 0 || (!formatId.empty() && FindSet(doc_->Data(), formatId) >= 0))
@@ -294,6 +311,7 @@ std::shared_ptr<host::PropertySet> SimPropertySets::Add(const std::string& name,
 }
 
 bool SimPropertySets::PropertySetExists(const std::string& nameOrId) const {
+    SIM_HOST_CALL("PropertySets.PropertySetExists");
     return FindSet(doc_->Data(), nameOrId) >= 0;
 }
 

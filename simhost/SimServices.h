@@ -5,6 +5,7 @@
 
 #include "host/Application.h"
 #include "simhost/DocData.h"
+#include "simhost/HostCalls.h"
 
 // The application's smaller services: transactions, file copies, file locations and the
 // view of the active document.
@@ -60,7 +61,10 @@ class SimView : public host::View {
 public:
     explicit SimView(SimDocumentPtr doc) : doc_(std::move(doc)) {}
     std::intptr_t HWND() const override;
-    std::shared_ptr<host::Camera> Camera() override { return std::make_shared<SimCamera>(doc_); }
+    std::shared_ptr<host::Camera> Camera() override {
+        SIM_HOST_CALL("View.Camera");
+        return std::make_shared<SimCamera>(doc_);
+    }
 
 private:
     SimDocumentPtr doc_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "simhost/HostCalls.h"
 #include "simhost/SimDocument.h"
 #include "support/Error.h"
 
@@ -58,11 +59,13 @@ RenderStyleData& SimRenderStyle::Edit() {
 // A style the part wears, or that any of its materials refers to, is in use: deleting it
 // would leave a material pointing at nothing.
 void SimRenderStyle::SetTextureFilename(const std::string& fileName) {
+    SIM_HOST_CALL("RenderStyle.SetTextureFilename");
     doc_->RequireStorable(fileName);
     Edit().texture = fileName;
 }
 
 bool SimRenderStyle::InUse() const {
+    SIM_HOST_CALL("RenderStyle.InUse");
     Style();
     const DocData& data = doc_->Data();
     if (data.renderStyle == name_) return true;
@@ -72,10 +75,12 @@ bool SimRenderStyle::InUse() const {
 }
 
 std::int32_t SimRenderStyle::StyleLocation() const {
+    SIM_HOST_CALL("RenderStyle.StyleLocation");
     return Style().location;
 }
 
 void SimRenderStyle::Delete() {
+    SIM_HOST_CALL("RenderStyle.Delete");
     if (InUse())
         throw Error(errors::kFail, "The render style \"" + name_ + "\" is in use and cannot be deleted");
     auto& list = doc_->Edit().renderStyles;
@@ -99,15 +104,18 @@ MaterialData& SimMaterial::Edit() {
 
 // The file keeps g/cm^3; the host speaks kg/cm^3.
 double SimMaterial::Density() const {
+    SIM_HOST_CALL("Material.Density");
     return Data().density / 1000.0;
 }
 
 void SimMaterial::SetDensity(double value) {
+    SIM_HOST_CALL("Material.SetDensity");
     if (!(value >= 0)) throw Error(errors::kInvalidArg, "A density must not be negative");
     Edit().density = value * 1000.0;
 }
 
 void SimMaterial::SetRenderStyle(const std::shared_ptr<host::RenderStyle>& style) {
+    SIM_HOST_CALL("Material.SetRenderStyle");
     std::string name = style ? style->Name() : std::string();
     if (!name.empty() && !styles::FindRenderStyle(doc_->Data(), name))
         throw Error(errors::kInvalidArg,
@@ -116,42 +124,50 @@ void SimMaterial::SetRenderStyle(const std::shared_ptr<host::RenderStyle>& style
 }
 
 std::shared_ptr<host::RenderStyle> SimMaterial::RenderStyle() {
+    SIM_HOST_CALL("Material.RenderStyle");
     const std::string& style = Data().renderStyle;
     return style.empty() ? nullptr : std::make_shared<SimRenderStyle>(doc_, style);
 }
 
 bool SimMaterial::InUse() const {
+    SIM_HOST_CALL("Material.InUse");
     Data();
     return doc_->Data().material == name_;
 }
 
 std::int32_t SimMaterial::StyleLocation() const {
+    SIM_HOST_CALL("Material.StyleLocation");
     return Data().location;
 }
 
 void SimMaterial::Delete() {
+    SIM_HOST_CALL("Material.Delete");
     if (InUse()) throw Error(errors::kFail, "The material \"" + name_ + "\" is in use and cannot be deleted");
     auto& list = doc_->Edit().materials;
     std::erase_if(list, [&](const MaterialData& m) { return m.name == name_; });
 }
 
 std::int32_t SimMaterials::Count() const {
+    SIM_HOST_CALL("Materials.Count");
     return static_cast<std::int32_t>(doc_->Data().materials.size());
 }
 
 std::shared_ptr<host::Material> SimMaterials::Item(std::int32_t index) {
+    SIM_HOST_CALL("Materials.Item");
     if (index < 1 || index > Count())
         throw Error(errors::kInvalidArg, "Materials.Item: no material at " + std::to_string(index));
     return std::make_shared<SimMaterial>(doc_, doc_->Data().materials[index - 1].name);
 }
 
 std::shared_ptr<host::Material> SimMaterials::Item(const std::string& name) {
+    SIM_HOST_CALL("Materials.Item");
     if (!styles::FindMaterial(doc_->Data(), name))
         throw Error(errors::kInvalidArg, "Materials.Item: no material named \"" + name + "\"");
     return std::make_shared<SimMaterial>(doc_, name);
 }
 
 std::shared_ptr<host::Material> SimMaterials::Add(const std::string& name, double density) {
+    SIM_HOST_CALL("Materials.Add");
     if (name.empty()) throw Error(errors::kInvalidArg, "A material needs a name");
     doc_->RequireStorable(name);
     if (styles::FindMaterial(doc_->Data(), name))
@@ -165,22 +181,26 @@ std::shared_ptr<host::Material> SimMaterials::Add(const std::string& name, doubl
 }
 
 std::int32_t SimRenderStyles::Count() const {
+    SIM_HOST_CALL("RenderStyles.Count");
     return static_cast<std::int32_t>(doc_->Data().renderStyles.size());
 }
 
 std::shared_ptr<host::RenderStyle> SimRenderStyles::Item(std::int32_t index) {
+    SIM_HOST_CALL("RenderStyles.Item");
     if (index < 1 || index > Count())
         throw Error(errors::kInvalidArg, "RenderStyles.Item: no render style at " + std::to_string(index));
     return std::make_shared<SimRenderStyle>(doc_, doc_->Data().renderStyles[index - 1].name);
 }
 
 std::shared_ptr<host::RenderStyle> SimRenderStyles::Item(const std::string& name) {
+    SIM_HOST_CALL("RenderStyles.Item");
     if (!styles::FindRenderStyle(doc_->Data(), name))
         throw Error(errors::kInvalidArg, "RenderStyles.Item: no render style named \"" + name + "\"");
     return std::make_shared<SimRenderStyle>(doc_, name);
 }
 
 std::shared_ptr<host::RenderStyle> SimRenderStyles::Add(const std::string& name) {
+    SIM_HOST_CALL("RenderStyles.Add");
     if (name.empty()) throw Error(errors::kInvalidArg, "A render style needs a name");
     doc_->RequireStorable(name);
     if (styles::FindRenderStyle(doc_->Data(), name))

@@ -5,6 +5,7 @@
 #include "host/Document.h"
 #include "host/Styles.h"
 #include "simhost/DocData.h"
+#include "simhost/HostCalls.h"
 
 namespace simhost {
 
@@ -19,29 +20,83 @@ std::string ActiveRenderStyleName(const DocData& data);
 class SimRenderStyle : public host::RenderStyle {
 public:
     SimRenderStyle(SimDocumentPtr doc, std::string name) : doc_(std::move(doc)), name_(std::move(name)) {}
-    std::string Name() const override { return name_; }
+    std::string Name() const override {
+        SIM_HOST_CALL("RenderStyle.Name");
+        return name_;
+    }
     bool InUse() const override;
     std::int32_t StyleLocation() const override;
     void Delete() override;
 
-    double Opacity() const override { return Style().opacity; }
-    void SetOpacity(double value) override { Edit().opacity = value; }
-    double Shininess() const override { return Style().shininess; }
-    void SetShininess(double value) override { Edit().shininess = value; }
-    std::string TextureFilename() const override { return Style().texture; }
+    double Opacity() const override {
+        SIM_HOST_CALL("RenderStyle.Opacity");
+        return Style().opacity;
+    }
+    void SetOpacity(double value) override {
+        SIM_HOST_CALL("RenderStyle.SetOpacity");
+        Edit().opacity = value;
+    }
+    double Shininess() const override {
+        SIM_HOST_CALL("RenderStyle.Shininess");
+        return Style().shininess;
+    }
+    void SetShininess(double value) override {
+        SIM_HOST_CALL("RenderStyle.SetShininess");
+        Edit().shininess = value;
+    }
+    std::string TextureFilename() const override {
+        SIM_HOST_CALL("RenderStyle.TextureFilename");
+        return Style().texture;
+    }
     void SetTextureFilename(const std::string& fileName) override;
-    double TextureScale() const override { return Style().textureScale; }
-    void SetTextureScale(double value) override { Edit().textureScale = value; }
-    double TextureRotation() const override { return Style().textureRotation; }
-    void SetTextureRotation(double value) override { Edit().textureRotation = value; }
-    host::Rgb GetAmbientColor() const override { return Style().ambient; }
-    void SetAmbientColor(host::Rgb color) override { Edit().ambient = color; }
-    host::Rgb GetDiffuseColor() const override { return Style().diffuse; }
-    void SetDiffuseColor(host::Rgb color) override { Edit().diffuse = color; }
-    host::Rgb GetSpecularColor() const override { return Style().specular; }
-    void SetSpecularColor(host::Rgb color) override { Edit().specular = color; }
-    host::Rgb GetEmissiveColor() const override { return Style().emissive; }
-    void SetEmissiveColor(host::Rgb color) override { Edit().emissive = color; }
+    double TextureScale() const override {
+        SIM_HOST_CALL("RenderStyle.TextureScale");
+        return Style().textureScale;
+    }
+    void SetTextureScale(double value) override {
+        SIM_HOST_CALL("RenderStyle.SetTextureScale");
+        Edit().textureScale = value;
+    }
+    double TextureRotation() const override {
+        SIM_HOST_CALL("RenderStyle.TextureRotation");
+        return Style().textureRotation;
+    }
+    void SetTextureRotation(double value) override {
+        SIM_HOST_CALL("RenderStyle.SetTextureRotation");
+        Edit().textureRotation = value;
+    }
+    host::Rgb GetAmbientColor() const override {
+        SIM_HOST_CALL("RenderStyle.GetAmbientColor");
+        return Style().ambient;
+    }
+    void SetAmbientColor(host::Rgb color) override {
+        SIM_HOST_CALL("RenderStyle.SetAmbientColor");
+        Edit().ambient = color;
+    }
+    host::Rgb GetDiffuseColor() const override {
+        SIM_HOST_CALL("RenderStyle.GetDiffuseColor");
+        return Style().diffuse;
+    }
+    void SetDiffuseColor(host::Rgb color) override {
+        SIM_HOST_CALL("RenderStyle.SetDiffuseColor");
+        Edit().diffuse = color;
+    }
+    host::Rgb GetSpecularColor() const override {
+        SIM_HOST_CALL("RenderStyle.GetSpecularColor");
+        return Style().specular;
+    }
+    void SetSpecularColor(host::Rgb color) override {
+        SIM_HOST_CALL("RenderStyle.SetSpecularColor");
+        Edit().specular = color;
+    }
+    host::Rgb GetEmissiveColor() const override {
+        SIM_HOST_CALL("RenderStyle.GetEmissiveColor");
+        return Style().emissive;
+    }
+    void SetEmissiveColor(host::Rgb color) override {
+        SIM_HOST_CALL("RenderStyle.SetEmissiveColor");
+        Edit().emissive = color;
+    }
 
 private:
     const RenderStyleData& Style() const;
@@ -54,27 +109,72 @@ private:
 class SimMaterial : public host::Material {
 public:
     SimMaterial(SimDocumentPtr doc, std::string name) : doc_(std::move(doc)), name_(std::move(name)) {}
-    std::string Name() const override { return name_; }
+    std::string Name() const override {
+        SIM_HOST_CALL("Material.Name");
+        return name_;
+    }
     bool InUse() const override;
     std::int32_t StyleLocation() const override;
     void Delete() override;
 
     double Density() const override;
     void SetDensity(double value) override;
-    double LinearExpansion() const override { return Data().values.linearExpansion; }
-    void SetLinearExpansion(double value) override { Edit().values.linearExpansion = value; }
-    double PoissonsRatio() const override { return Data().values.poissonsRatio; }
-    void SetPoissonsRatio(double value) override { Edit().values.poissonsRatio = value; }
-    double SpecificHeat() const override { return Data().values.specificHeat; }
-    void SetSpecificHeat(double value) override { Edit().values.specificHeat = value; }
-    double ThermalConductivity() const override { return Data().values.thermalConductivity; }
-    void SetThermalConductivity(double value) override { Edit().values.thermalConductivity = value; }
-    double UltimateTensileStrength() const override { return Data().values.ultimateTensileStrength; }
-    void SetUltimateTensileStrength(double value) override { Edit().values.ultimateTensileStrength = value; }
-    double YieldStrength() const override { return Data().values.yieldStrength; }
-    void SetYieldStrength(double value) override { Edit().values.yieldStrength = value; }
-    double YoungsModulus() const override { return Data().values.youngsModulus; }
-    void SetYoungsModulus(double value) override { Edit().values.youngsModulus = value; }
+    double LinearExpansion() const override {
+        SIM_HOST_CALL("Material.LinearExpansion");
+        return Data().values.linearExpansion;
+    }
+    void SetLinearExpansion(double value) override {
+        SIM_HOST_CALL("Material.SetLinearExpansion");
+        Edit().values.linearExpansion = value;
+    }
+    double PoissonsRatio() const override {
+        SIM_HOST_CALL("Material.PoissonsRatio");
+        return Data().values.poissonsRatio;
+    }
+    void SetPoissonsRatio(double value) override {
+        SIM_HOST_CALL("Material.SetPoissonsRatio");
+        Edit().values.poissonsRatio = value;
+    }
+    double SpecificHeat() const override {
+        SIM_HOST_CALL("Material.SpecificHeat");
+        return Data().values.specificHeat;
+    }
+    void SetSpecificHeat(double value) override {
+        SIM_HOST_CALL("Material.SetSpecificHeat");
+        Edit().values.specificHeat = value;
+    }
+    double ThermalConductivity() const override {
+        SIM_HOST_CALL("Material.ThermalConductivity");
+        return Data().values.thermalConductivity;
+    }
+    void SetThermalConductivity(double value) override {
+        SIM_HOST_CALL("Material.SetThermalConductivity");
+        Edit().values.thermalConductivity = value;
+    }
+    double UltimateTensileStrength() const override {
+        SIM_HOST_CALL("Material.UltimateTensileStrength");
+        return Data().values.ultimateTensileStrength;
+    }
+    void SetUltimateTensileStrength(double value) override {
+        SIM_HOST_CALL("Material.SetUltimateTensileStrength");
+        Edit().values.ultimateTensileStrength = value;
+    }
+    double YieldStrength() const override {
+        SIM_HOST_CALL("Material.YieldStrength");
+        return Data().values.yieldStrength;
+    }
+    void SetYieldStrength(double value) override {
+        SIM_HOST_CALL("Material.SetYieldStrength");
+        Edit().values.yieldStrength = value;
+    }
+    double YoungsModulus() const override {
+        SIM_HOST_CALL("Material.YoungsModulus");
+        return Data().values.youngsModulus;
+    }
+    void SetYoungsModulus(double value) override {
+        SIM_HOST_CALL("Material.SetYoungsModulus");
+        Edit().values.youngsModulus = value;
+    }
     std::shared_ptr<host::RenderStyle> RenderStyle() override;  // null when it names none
     void SetRenderStyle(const std::shared_ptr<host::RenderStyle>& style) override;
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "host/Codes.h"
+#include "simhost/HostCalls.h"
 #include "simhost/HostNames.h"
 #include "simhost/SimDocument.h"
 #include "support/Error.h"
@@ -52,6 +53,7 @@ SimUnitsOfMeasure::Unit SimUnitsOfMeasure::Resolve(std::int32_t unitsType) const
 }
 
 std::string SimUnitsOfMeasure::GetStringFromValue(double value, std::int32_t unitsType) const {
+    SIM_HOST_CALL("UnitsOfMeasure.GetStringFromValue");
     Unit unit = Resolve(unitsType);
     char buf[64];
     std::snprintf(buf, sizeof buf, "%.3f %s", value / unit.perUnit, unit.name);
@@ -60,6 +62,7 @@ std::string SimUnitsOfMeasure::GetStringFromValue(double value, std::int32_t uni
 
 // A unit named in text: a mass unit, or a length unit with an optional power ("mm^3").
 std::string SimUnitsOfMeasure::GetStringFromValue(double value, const std::string& unitText) const {
+    SIM_HOST_CALL("UnitsOfMeasure.GetStringFromValue");
     std::string_view text = TrimBlanks(unitText);
     char buf[96];
     if (auto mass = names::MassUnitCode(text)) {
@@ -84,6 +87,7 @@ std::string SimUnitsOfMeasure::GetStringFromValue(double value, const std::strin
 
 double SimUnitsOfMeasure::GetValueFromExpression(const std::string& expression,
                                                  std::int32_t unitsType) const {
+    SIM_HOST_CALL("UnitsOfMeasure.GetValueFromExpression");
     Unit wanted = Resolve(unitsType);
     auto invalid = [&]() { return Error(errors::kInvalidArg, "Invalid expression: \"" + expression + "\""); };
     std::string_view text = TrimBlanks(expression);
@@ -107,20 +111,24 @@ double SimUnitsOfMeasure::GetValueFromExpression(const std::string& expression,
 }
 
 std::string SimUnitsOfMeasure::GetStringFromType(std::int32_t unitsType) const {
+    SIM_HOST_CALL("UnitsOfMeasure.GetStringFromType");
     return Resolve(unitsType).name;
 }
 
 std::int32_t SimUnitsOfMeasure::MassUnits() const {
+    SIM_HOST_CALL("UnitsOfMeasure.MassUnits");
     return doc_->Data().massUnits;
 }
 
 void SimUnitsOfMeasure::SetMassUnits(std::int32_t unitsType) {
+    SIM_HOST_CALL("UnitsOfMeasure.SetMassUnits");
     if (!names::MassUnit(unitsType))
         throw Error(errors::kInvalidArg, "Units type " + std::to_string(unitsType) + " is not a mass unit");
     if (unitsType != doc_->Data().massUnits) doc_->Edit().massUnits = unitsType;
 }
 
 std::int32_t SimUnitsOfMeasure::LengthUnits() const {
+    SIM_HOST_CALL("UnitsOfMeasure.LengthUnits");
     return kMillimeterLengthUnits;
 }
 

@@ -242,6 +242,7 @@ void Move(Session& s, const Args& args) {
 }  // namespace
 
 void AddFormVerbs(std::vector<Verb>& verbs) {
+    const std::size_t first = verbs.size();
     verbs.push_back({"click", "click FORM.CONTROL[(INDEX)]", 1, 1, Click, CheckTarget});
     verbs.push_back(
         {"dblclick", "dblclick FORM.CONTROL [ROW] [\"ROW TEXT\"]", 1, 3, DoubleClick, [](const Args& a) {
@@ -268,6 +269,8 @@ void AddFormVerbs(std::vector<Verb>& verbs) {
                          a.Int(1);
                          a.Int(2);
                      }});
+    // Every form belongs to the add-in: acting on one runs its code.
+    for (std::size_t i = first; i < verbs.size(); ++i) verbs[i].reachesAddin = verbs[i].name != "print control";
 }
 
 }  // namespace session

@@ -158,6 +158,12 @@ void AddHostVerbs(std::vector<Verb>& verbs) {
          [](const Args& a) { Switch(a, 1); }});
     verbs.push_back({"refuse-writes", "refuse-writes [on|off]", 0, 1,
                      [](Session& s, const Args& a) { s.Host().RefuseWrites(Switch(a, 0)); }, CheckSwitch});
+
+    // What the host hands to the add-in: activation, its buttons and its interactions.
+    for (auto& verb : verbs)
+        if (verb.name.starts_with("addin ") || verb.name == "button" || verb.name == "run-command" ||
+            verb.name == "pick" || verb.name == "escape" || verb.name == "context-menu")
+            verb.reachesAddin = true;
 }
 
 }  // namespace session

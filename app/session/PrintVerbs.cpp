@@ -11,6 +11,7 @@
 #include "host/Document.h"
 #include "host/Properties.h"
 #include "host/Styles.h"
+#include "simhost/HostCalls.h"
 #include "support/Text.h"
 #include "ui/Form.h"
 
@@ -51,6 +52,15 @@ void PrintHeld(Session& s, const Args&) {
     for (const auto& name : s.Addin().HeldReferences()) names += (names.empty() ? "" : ", ") + name;
     s.Transcript().Write("held references: " + (names.empty() ? std::string("none") : names));
     s.Transcript().Write("main dialog open: " + std::to_string(s.Addin().State().mainDialogOpen));
+}
+
+// The add-in's calls through the host interfaces since the last time they were printed
+// (or since the session began), by member: what each would cost across COM in the host.
+void PrintHostCalls(Session& s, const Args&) {
+    s.Transcript().Write("host calls: " + std::to_string(simhost::HostCalls::Total()));
+    for (const auto& [member, count] : simhost::HostCalls::Counts())
+        s.Transcript().Write("  " + member + " " + std::to_string(count));
+    simhost::HostCalls::Start();
 }
 
 void PrintActive(Session& s, const Args&) {
@@ -172,6 +182,7 @@ void AddPrintVerbs(std::vector<Verb>& verbs) {
     verbs.push_back({"print property-sets", "print property-sets PATH", 1, 1, PrintPropertySets});
     verbs.push_back({"print file", "print file PATH", 1, 1, PrintFile});
     verbs.push_back({"print held", "print held", 0, 0, PrintHeld});
+    verbs.push_back({"print host-calls", "print host-calls", 0, 0, PrintHostCalls});
     verbs.push_back({"print settings", "print settings SECTION", 1, 1, PrintSettings});
     verbs.push_back({"compare", "compare PATH PATH", 2, 2, Compare});
 }

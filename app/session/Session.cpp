@@ -1,9 +1,12 @@
 #include "app/session/Session.h"
 
+#include <optional>
+
 #include "addin/clsAppCmd.h"
 #include "app/session/Verb.h"
 #include "host/Application.h"
 #include "host/Document.h"
+#include "simhost/HostCalls.h"
 #include "support/Error.h"
 #include "support/Text.h"
 #include "ui/Form.h"
@@ -17,6 +20,7 @@ Session::Session(std::ostream& out, const std::filesystem::path& settingsFile)
     : transcript_(out), platform_(transcript_), observer_(transcript_), settings_(settingsFile) {
     host_.SetObserver(&observer_);
     platform_.SetUserInput(this);
+    simhost::HostCalls::Start();
     auto app = host_.Application();
     platform_.SetHostWindow(app->MainFrameHWND(), app->Caption());
     addin_ = std::make_unique<addin::clsAppCmd>(addin::Environment{platform_, settings_, host_.FileSystem()});
@@ -66,6 +70,8 @@ void Session::Play(const ScriptLine& line, const std::string& note) {
         auto call = FindVerb(line);
         if (call.verb->echoed) transcript_.Write("> " + line.text + note);
         Args args(line, call.firstArg, call.verb->usage);
+        std::optional<simhost::HostCalls::Uncounted> notTheAddin;
+        if (!call.verb->reachesAddin) notTheAddin.emplace();
         try {
             call.verb->run(*this, args);
         } catch (const support::Error& e) {

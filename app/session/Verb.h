@@ -44,6 +44,9 @@ struct Verb {
     // Checks that need no session, made before a script plays its first line.
     std::function<void(const Args&)> check = nullptr;
     bool echoed = true;  // the line is written to the transcript before it runs
+    // The verb acts on the add-in (a click, a pick, a button): the host calls made while it
+    // runs are the add-in's. Other verbs read or set up the host as the session's world.
+    bool reachesAddin = false;
 };
 
 // The verbs of each group, and all of them.
