@@ -7,3 +7,9 @@
 #include <ocidl.h>
 #include <olectl.h>
 // clang-format on
+
+// windows.h makes CopyFile and DeleteFile macros for their W functions; they are also the
+// names of host members (FileManager.CopyFile, host::FileSystem), which the macros would
+// rename. Our Win32 code calls the W functions by their own names.
+#undef CopyFile
+#undef DeleteFile

@@ -145,6 +145,7 @@ TW_FACE_TABLE(host::UserInputEvents) {
 
 support::Variant Face(std::shared_ptr<host::InteractionEvents> target) {
     if (!target) return Nothing();
+    if (auto existing = FaceObject<host::InteractionEvents>::Existing(target)) return AsValue(existing);
     auto face = MakeEventFace(target, {com::kIIDInteractionEventsSink});
     auto* raw = face.Get();
     face->Keep(target->OnTerminate().Subscribe([raw] { raw->Point(0).Raise(com::kDispidOnTerminate, {}); }));
@@ -153,6 +154,7 @@ support::Variant Face(std::shared_ptr<host::InteractionEvents> target) {
 
 support::Variant Face(std::shared_ptr<host::SelectEvents> target) {
     if (!target) return Nothing();
+    if (auto existing = FaceObject<host::SelectEvents>::Existing(target)) return AsValue(existing);
     auto face = MakeEventFace(target, {com::kIIDSelectEventsSink});
     auto* raw = face.Get();
     // The positions and the view are the host's geometry, which the stand-in does not model.
@@ -171,6 +173,7 @@ support::Variant Face(std::shared_ptr<host::SelectEvents> target) {
 
 support::Variant Face(std::shared_ptr<host::UserInputEvents> target) {
     if (!target) return Nothing();
+    if (auto existing = FaceObject<host::UserInputEvents>::Existing(target)) return AsValue(existing);
     auto face = MakeEventFace(target, {com::kIIDUserInputEventsSink});
     auto* raw = face.Get();
     face->Keep(target->OnContextMenu().Subscribe(

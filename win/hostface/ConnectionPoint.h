@@ -56,7 +56,7 @@ public:
 
 private:
     ConnectionPointEnum(std::vector<com::ComPtr<IConnectionPoint>> points, std::size_t position);
-    ~ConnectionPointEnum();
+    virtual ~ConnectionPointEnum();
     std::vector<com::ComPtr<IConnectionPoint>> points_;
     std::size_t position_;
     LONG refs_ = 1;

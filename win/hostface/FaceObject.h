@@ -1,4 +1,5 @@
 #pragma once
+#include <map>
 #include <memory>
 #include <span>
 #include <vector>
@@ -25,11 +26,22 @@ struct FaceMember {
 // kind of object has one member table (FaceTable<T>), and the face does nothing but forward
 // to the object it shows: no logic of its own, so both ways of playing a session meet the
 // same host.
+//
+// One host object has one face while the face lives, as the host hands out one COM object
+// for each of its objects: a client comparing two references (Is in a script) finds them
+// the same.
 template <class T>
 class FaceObject : public com::DispatchObject<> {
 public:
-    explicit FaceObject(std::shared_ptr<T> target) : target_(std::move(target)) {}
+    explicit FaceObject(std::shared_ptr<T> target) : target_(std::move(target)) { Live()[target_.get()] = this; }
+    ~FaceObject() override { Live().erase(target_.get()); }
     const std::shared_ptr<T>& Target() const { return target_; }
+
+    // The face target has now, if it has one.
+    static com::ComPtr<IDispatch> Existing(const std::shared_ptr<T>& target) {
+        auto found = Live().find(target.get());
+        return found == Live().end() ? nullptr : com::ComPtr<IDispatch>(found->second);
+    }
 
 protected:
     std::span<const com::Member> Members() const override {
@@ -59,6 +71,10 @@ protected:
     bool Answers(REFIID) const override { return false; }
 
 private:
+    static std::map<const T*, FaceObject*>& Live() {
+        static std::map<const T*, FaceObject*> live;
+        return live;
+    }
     static std::span<const FaceMember<T>> Table();
     static DISPID IdOf(std::size_t index) {
         return Table()[index].id ? Table()[index].id : static_cast<DISPID>(index + 1);

@@ -128,7 +128,8 @@ inline bool GivenObject(const InvokeArgs& args, std::size_t i) {
 template <class T>
 support::Variant MakeFace(std::shared_ptr<T> target) {
     if (!target) return support::Variant(std::shared_ptr<support::Object>());
-    com::ComPtr<IDispatch> face = com::DispatchObject<>::Make<FaceObject<T>>(std::move(target));
+    com::ComPtr<IDispatch> face = FaceObject<T>::Existing(target);
+    if (!face) face = com::DispatchObject<>::Make<FaceObject<T>>(std::move(target));
     return support::Variant(std::make_shared<com::ComObject>(std::move(face)));
 }
 
