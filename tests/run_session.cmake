@@ -8,8 +8,9 @@ if(NOT settings_file)
   set(settings_file /tmp)
 endif()
 set(ENV{TARNWELL_SETTINGS} ${settings_file}/tarnwell-session-${name}-${tag}.ini)
+# EMULATOR runs a Windows build's program (under Wine); OPTIONS go before the script.
 execute_process(
-  COMMAND ${TARNWELL} run ${SCRIPT}
+  COMMAND ${EMULATOR} ${TARNWELL} run ${OPTIONS} ${SCRIPT}
   WORKING_DIRECTORY ${SOURCE_DIR}
   OUTPUT_VARIABLE actual ERROR_VARIABLE errors RESULT_VARIABLE rc)
 file(REMOVE $ENV{TARNWELL_SETTINGS})

@@ -104,7 +104,7 @@ void AddHostVerbs(std::vector<Verb>& verbs) {
                      [](Session& s, const Args& a) { s.Host().SetUserName(a.Text(0)); }});
 
     verbs.push_back({"addin activate", "addin activate", 0, 0, [](Session& s, const Args&) {
-                         s.Addin().Activate(*s.Host().Site(), s.NextActivationIsFirst());
+                         s.Addin().Activate(s.AddInSite(), s.NextActivationIsFirst());
                      }});
     verbs.push_back({"addin deactivate", "addin deactivate", 0, 0,
                      [](Session& s, const Args&) { s.Addin().Deactivate(); }});

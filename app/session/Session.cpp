@@ -87,6 +87,11 @@ void Session::Play(const ScriptLine& line, const std::string& note) {
     }
 }
 
+host::AddInSite& Session::AddInSite() {
+    if (!site_) site_ = siteView_ ? siteView_(host_.Site()) : host_.Site();
+    return *site_;
+}
+
 ui::Form& Session::LoadedForm(const std::string& name) {
     if (auto* form = platform_.FindForm(name)) return *form;
     std::string loaded;

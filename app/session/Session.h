@@ -1,5 +1,6 @@
 #pragma once
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -41,6 +42,12 @@ public:
     bool PlayNext(const std::string& waitingFor) override;
 
     simhost::SimHost& Host() { return host_; }
+    // How the add-in sees the host: the stand-in's site as it is, or as another layer shows
+    // it (the Windows build puts the host's automation interface in between).
+    using SiteView = std::function<std::shared_ptr<host::AddInSite>(std::shared_ptr<host::AddInSite>)>;
+    void SetSiteView(SiteView view) { siteView_ = std::move(view); }
+    // The site the add-in is activated with, made on first use and kept for the session.
+    host::AddInSite& AddInSite();
     // The loaded document of that name, compared as the host's file system does: without
     // case. A ScriptError when none is loaded.
     std::shared_ptr<host::Document> LoadedDocument(const std::string& fullFileName);
@@ -65,6 +72,8 @@ private:
     TranscriptObserver observer_;
     simhost::SimHost host_;
     settings::IniFileStore settings_;
+    SiteView siteView_;
+    std::shared_ptr<host::AddInSite> site_;  // outlives the add-in, which holds what it gave
     std::unique_ptr<addin::clsAppCmd> addin_;
 
     LineSource* source_ = nullptr;

@@ -77,7 +77,11 @@ support::Variant Dispatch::Invoke(DISPID id, WORD flags, const Arguments& args,
     }
     for (std::size_t i = 0; i < args.size(); ++i) {
         VARIANT& slot = values[count - 1 - i].Get();
-        if (args[i].Value()) {
+        if (args[i].Reference()) {
+            // The variable stays the caller's: the slot only points at it, nothing to free.
+            V_VT(&slot) = args[i].ReferenceType();
+            V_BYREF(&slot) = args[i].Reference();
+        } else if (args[i].Value()) {
             ToVariant(*args[i].Value(), slot);
         } else {
             V_VT(&slot) = VT_ERROR;
@@ -93,7 +97,9 @@ support::Variant Dispatch::Invoke(DISPID id, WORD flags, const Arguments& args,
     UINT badArgument = 0;
     HRESULT hr = object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &params, &result.Get(), &exception,
                                &badArgument);
-    if (hr == DISP_E_EXCEPTION) throw Failed(ErrorFromExcepInfo(exception), memberName);
+    // The callee's own error reaches the user as the callee wrote it; a failure of the call
+    // itself (an unknown member, a wrong argument) names the member that was called.
+    if (hr == DISP_E_EXCEPTION) throw ErrorFromExcepInfo(exception);
     if (FAILED(hr)) throw Failed(ErrorFromHresult(hr), memberName);
     return FromVariant(result.Get());
 }

@@ -10,18 +10,27 @@
 
 namespace win::com {
 
-// One positional argument: a value, or left out (an optional parameter the callee defaults).
+// One positional argument: a value, left out (an optional parameter the callee defaults),
+// or a variable of the caller's that the callee writes ([out], ByRef in a script).
 class Argument {
 public:
     Argument(support::Variant value) : value_(std::move(value)) {}
     template <class T>
     Argument(T value) : value_(support::Variant(std::move(value))) {}
     static Argument Missing() { return Argument(); }
+    // The callee sees the variable's own type by reference: a Byte stays a Byte.
+    static Argument Out(BYTE* variable) { return Argument(VT_UI1 | VT_BYREF, variable); }
+    static Argument Out(VARIANT_BOOL* variable) { return Argument(VT_BOOL | VT_BYREF, variable); }
     const std::optional<support::Variant>& Value() const { return value_; }
+    VARTYPE ReferenceType() const { return refType_; }
+    void* Reference() const { return ref_; }
 
 private:
     Argument() = default;
+    Argument(VARTYPE type, void* variable) : refType_(type), ref_(variable) {}
     std::optional<support::Variant> value_;
+    VARTYPE refType_ = VT_EMPTY;
+    void* ref_ = nullptr;
 };
 using Arguments = std::vector<Argument>;
 

@@ -62,6 +62,9 @@ void InvokeArgs::SetOut(std::size_t index, const support::Variant& value) const 
         case VT_BOOL:
             *V_BOOLREF(&slot) = V_BOOL(&converted.Get());
             return;
+        case VT_UI1:
+            *V_UI1REF(&slot) = V_UI1(&converted.Get());
+            return;
         case VT_I2:
             *V_I2REF(&slot) = V_I2(&converted.Get());
             return;
@@ -118,7 +121,11 @@ HRESULT Invoke(Invocable& target, DISPID id, REFIID iid, WORD flags, DISPPARAMS*
     if (!known) return DISP_E_MEMBERNOTFOUND;
     DISPPARAMS none{nullptr, nullptr, 0, 0};
     if (!params) params = &none;
-    if (params->cNamedArgs > 0) return DISP_E_NONAMEDARGS;
+    // A property assignment names its value DISPID_PROPERTYPUT; it is then the last
+    // positional argument. Our members take no other named arguments.
+    bool assignment = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) && params->cNamedArgs == 1 &&
+                      params->rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
+    if (params->cNamedArgs > 0 && !assignment) return DISP_E_NONAMEDARGS;
     try {
         support::Variant value = target.Call(id, flags, InvokeArgs(*params));
         if (result) ToVariant(value, *result);

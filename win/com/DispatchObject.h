@@ -15,7 +15,7 @@ struct InvokeError {
 };
 
 // The positional arguments of a call into one of our objects, in declared order
-// (DISPPARAMS holds them reversed).
+// (DISPPARAMS holds them reversed). A property assignment's value is the last one.
 class InvokeArgs {
 public:
     explicit InvokeArgs(const DISPPARAMS& params) : params_(params) {}

@@ -1,5 +1,6 @@
 #pragma once
 #include "win/com/Guid.h"
+#include "win/com/HostEvents.h"
 #include "win/com/Ole.h"
 
 // The host's add-in server interface and the members of its site that the server uses.
@@ -15,7 +16,7 @@ inline constexpr DISPID kDispidActivate = 0x03001201;
 inline constexpr DISPID kDispidDeactivate = 0x03001202;
 inline constexpr DISPID kDispidExecuteCommand = 0x03001203;
 inline constexpr DISPID kDispidAutomation = 0x03001204;
-inline constexpr DISPID kDispidSiteApplication = 0x03001401;  // ApplicationAddInSite.Application
+using com::kDispidSiteApplication;  // ApplicationAddInSite.Application
 
 // The category the host of releases 7 to 9 looks for: a versioned add-in.
 inline constexpr wchar_t kVersionedAddInCategory[] = L"{39AD2B5C-7A29-11D6-8E0A-0010B541CAA8}";
