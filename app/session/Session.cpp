@@ -8,6 +8,7 @@
 #include "host/Document.h"
 #include "simhost/HostCalls.h"
 #include "support/Error.h"
+#include "support/Suggest.h"
 #include "support/Text.h"
 #include "ui/Form.h"
 
@@ -95,8 +96,14 @@ host::AddInSite& Session::AddInSite() {
 ui::Form& Session::LoadedForm(const std::string& name) {
     if (auto* form = platform_.FindForm(name)) return *form;
     std::string loaded;
-    for (auto* form : platform_.LoadedForms()) loaded += (loaded.empty() ? "" : ", ") + form->Name();
-    throw ScriptError("no form " + name + " is loaded (loaded: " + (loaded.empty() ? "none" : loaded) + ")");
+    std::vector<std::string> names;
+    for (auto* form : platform_.LoadedForms()) {
+        loaded += (loaded.empty() ? "" : ", ") + form->Name();
+        names.push_back(form->Name());
+    }
+    std::string hint = support::DidYouMean(name, names);
+    throw ScriptError("no form " + name + " is loaded" +
+                      (!hint.empty() ? hint : " (loaded: " + (loaded.empty() ? "none" : loaded) + ")"));
 }
 
 void Session::ReportScriptError(const ScriptError& error) {

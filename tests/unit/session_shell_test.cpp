@@ -20,7 +20,7 @@ TEST(SessionShell, TheKeyboardReportsMistakesAndReadsOn) {
     EXPECT_EQ(session.Run(keyboard), 0);
     EXPECT_EQ(out.str(),
               "# one\n"
-              "script error: line 2: unknown verb \"clik\" (docs/session.md lists them)\n"
+              "script error: line 2: unknown verb \"clik\" (did you mean click?)\n"
               "script error: line 4: a quoted text is not closed\n"
               "> button TarnwellCmd1\n"
               "failed: error 0x80070057: No button \"TarnwellCmd1\" on any command bar\n"
