@@ -47,7 +47,7 @@ int Session::Run(LineSource& source) {
         }
     } catch (const ScriptError& e) {
         ReportScriptError(e);
-        status = 1;
+        status = strictStop_ ? 3 : 1;
     }
     source_ = nullptr;
     return status;
@@ -73,14 +73,22 @@ void Session::Play(const ScriptLine& line, const std::string& note) {
         Args args(line, call.firstArg, call.verb->usage);
         std::optional<simhost::HostCalls::Uncounted> notTheAddin;
         if (!call.verb->reachesAddin) notTheAddin.emplace();
+        const int reportedBefore = platform_.ErrorsReported();
+        bool failed = false;
         try {
             call.verb->run(*this, args);
         } catch (const support::Error& e) {
             transcript_.Write("failed: error " + HexNumber(e.Number()) + ": " +
                               ui::headless::Escape(e.Description()));
+            failed = true;
         } catch (const std::exception& e) {
             // Not the host's refusal but a fault of the driver or the stand-in: stop here.
             throw ScriptError(std::string("unexpected failure: ") + e.what());
+        }
+        if (strict_ && !strictStop_ && (failed || platform_.ErrorsReported() > reportedBefore)) {
+            strictStop_ = true;
+            throw ScriptError(failed ? "the line failed, and --strict ends the script there"
+                                     : "the add-in reported an error, and --strict ends the script there");
         }
     } catch (ScriptError& e) {
         e.PlaceAt(line.number);
@@ -115,7 +123,10 @@ host::DocumentPtr Session::LoadedDocument(const std::string& fullFileName) {
     auto documents = host_.Application()->Documents();
     for (std::int32_t i = 1; i <= documents->Count(); ++i) {
         auto document = documents->Item(i);
-        if (support::LCase(document->FullFileName()) == support::LCase(fullFileName)) return document;
+        // A document never saved goes by its display name ("Part1").
+        const std::string name =
+            document->FullFileName().empty() ? document->DisplayName() : document->FullFileName();
+        if (support::LCase(name) == support::LCase(fullFileName)) return document;
     }
     throw ui::headless::ScriptError("no open document " + fullFileName);
 }

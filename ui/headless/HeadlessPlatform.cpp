@@ -185,6 +185,7 @@ Form* HeadlessPlatform::TopModalForm() const {
 }
 
 void HeadlessPlatform::ReportError(const support::Error& error) {
+    ++errorsReported_;
     transcript_.Write("error " + HexNumber(error.Number()) + ": " + Escape(error.Description()));
 }
 

@@ -31,6 +31,8 @@ public:
     explicit HeadlessPlatform(Transcript& transcript) : transcript_(transcript) {}
 
     void SetUserInput(UserInput* input) { input_ = input; }
+    // How many errors reached the error report: the add-in's unhandled errors.
+    int ErrorsReported() const { return errorsReported_; }
 
     // --- what the script sets up
     void QueueAnswer(Prompt prompt, Answer answer) { answers_.Queue(prompt, std::move(answer)); }
@@ -97,6 +99,7 @@ private:
     std::map<const Form*, std::intptr_t> owners_;
     std::vector<Scheduled> scheduled_;
     int yields_ = 0;
+    int errorsReported_ = 0;
     std::vector<Form*> loaded_;
     std::vector<Form*> modal_;  // running modal loops, outermost first
 };
