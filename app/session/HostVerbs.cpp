@@ -140,7 +140,8 @@ void AddHostVerbs(std::vector<Verb>& verbs) {
         {"close-document", "close-document PATH [skip-save]", 1, 2,
          [](Session& s, const Args& a) { s.LoadedDocument(a.Text(0))->Close(a.Is(1, "skip-save")); },
          [](const Args& a) { CheckOptionalWord(a, 1, "skip-save"); }});
-    verbs.push_back({"save", "save PATH", 1, 1, [](Session& s, const Args& a) { s.LoadedDocument(a.Text(0))->Save(); }});
+    verbs.push_back(
+        {"save", "save PATH", 1, 1, [](Session& s, const Args& a) { s.LoadedDocument(a.Text(0))->Save(); }});
     verbs.push_back({"save-all", "save-all", 0, 0, SaveAll});
     verbs.push_back({"close-all", "close-all", 0, 0, [](Session& s, const Args&) { s.Host().CloseAll(); }});
     verbs.push_back(

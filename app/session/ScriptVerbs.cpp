@@ -3,8 +3,8 @@
 #include "addin/shared/AddinState.h"
 #include "app/session/Session.h"
 #include "app/session/Verb.h"
-#include "ui/headless/MsgBoxNames.h"
 #include "support/Suggest.h"
+#include "ui/headless/MsgBoxNames.h"
 #include "ui/headless/ScriptError.h"
 
 namespace session {

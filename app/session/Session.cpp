@@ -101,6 +101,32 @@ host::AddInSite& Session::AddInSite() {
     return *site_;
 }
 
+std::optional<ui::headless::Answer> Session::AskPerson(const std::string& description,
+                                                       const std::vector<std::string>& buttons) {
+    if (!source_ || !source_->CanAsk()) return std::nullopt;
+    std::string choices;
+    for (const auto& button : buttons) choices += (choices.empty() ? "" : ", ") + button;
+    if (choices.empty()) choices = "text or a path, \"\" for none, or cancel";
+    bool shown = false;
+    for (;;) {
+        if (!shown) transcript_.Write("? " + description);
+        auto typed = source_->Ask("answer (" + choices + ")> ");
+        if (!typed) return std::nullopt;  // a script, or the keyboard has ended
+        shown = true;
+        std::string text = support::Trim(*typed);
+        if (text.empty()) continue;
+        if (buttons.empty()) {
+            if (text == "cancel") return ui::headless::Answer{std::nullopt, 0};
+            if (text.size() >= 2 && text.front() == '"' && text.back() == '"')
+                text = text.substr(1, text.size() - 2);
+            return ui::headless::Answer{text, 0};
+        }
+        for (const auto& button : buttons)
+            if (support::LCase(button) == support::LCase(text)) return ui::headless::Answer{button, 0};
+        transcript_.Write("? " + text + " is not a button; answer " + choices);
+    }
+}
+
 ui::Form& Session::LoadedForm(const std::string& name) {
     if (auto* form = platform_.FindForm(name)) return *form;
     std::string loaded;

@@ -44,6 +44,9 @@ public:
     // in the verb itself as a "failed:" line. `note` follows the echo.
     void Play(const ScriptLine& line, const std::string& note = "");
     bool PlayNext(const std::string& waitingFor) override;
+    // At the keyboard, a prompt with no queued answer shows its text and waits for one.
+    std::optional<ui::headless::Answer> AskPerson(const std::string& description,
+                                                  const std::vector<std::string>& buttons) override;
 
     simhost::SimHost& Host() { return host_; }
     // How the add-in sees the host: the stand-in's site as it is, or as another layer shows

@@ -1,4 +1,5 @@
 #pragma once
+#include <optional>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -20,6 +21,13 @@ public:
     // Plays the user's next action; false when none is left. `waitingFor` names the
     // wait ("a blocking pick", "modal form frmX").
     virtual bool PlayNext(const std::string& waitingFor) = 0;
+    // Asks the person at the keyboard for the answer to a prompt no line queued one for:
+    // one of `buttons` for a message box, else any text or cancel. nullopt when there is
+    // no one to ask (a script) or the input has ended.
+    virtual std::optional<Answer> AskPerson(const std::string& /*description*/,
+                                            const std::vector<std::string>& /*buttons*/) {
+        return std::nullopt;
+    }
 };
 
 // The platform of tests and the session driver: every box and prompt takes its answer
