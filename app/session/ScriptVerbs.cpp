@@ -102,6 +102,7 @@ void AddScriptVerbs(std::vector<Verb>& verbs) {
     verbs.push_back(AnswerVerb("answer folder", "answer folder PATH|cancel", Prompt::Folder));
 
     verbs.push_back({"help", "help [VERB]", 0, 1, Help, [](const Args& a) { HelpFor(a); }});
+    verbs.push_back({"quit", "quit", 0, 0, [](Session& s, const Args&) { s.Quit(); }});
     verbs.push_back({"apppath", "apppath EXE-NAME PATH", 2, 2, [](Session& s, const Args& a) {
                          s.Platform().SetApplicationPath(a.Text(0), a.Text(1));
                      }});

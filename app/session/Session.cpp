@@ -54,7 +54,7 @@ int Session::Run(LineSource& source) {
 }
 
 bool Session::PlayNext(const std::string& waitingFor) {
-    if (!source_) return false;
+    if (!source_ || quit_) return false;
     try {
         auto line = source_->Next(waitingFor);
         if (!line) return false;

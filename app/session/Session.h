@@ -37,6 +37,8 @@ public:
     // Strict: a line that fails, or an error of the add-in that reaches the error report,
     // ends the script, for callers that act on the exit status.
     void SetStrict(bool strict) { strict_ = strict; }
+    // No line plays after this one: the shell ends, a script ends there.
+    void Quit() { quit_ = true; }
     // The script errors written so far, "line 7: ...", for the caller's own report.
     const std::vector<std::string>& Errors() const { return errors_; }
 
@@ -88,6 +90,7 @@ private:
     std::vector<std::string> errors_;
     bool strict_ = false;
     bool strictStop_ = false;
+    bool quit_ = false;
 };
 
 }  // namespace session

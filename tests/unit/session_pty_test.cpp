@@ -57,21 +57,17 @@ public:
         return true;
     }
 
-    // Ctrl-D at the prompt ends the shell; its exit status, or -1 if it did not end. A key
-    // typed just as line editing starts can be lost (the terminal switches modes under
-    // it), so it is typed again after a second, as a person would.
-    int EndAtThePrompt() {
+    // `quit` at the prompt ends the shell; its exit status, or -1 if it did not end.
+    int QuitAtThePrompt() {
         if (!WaitFor("tarnwell> ")) return -1;
-        for (int tries = 0; tries < 20; ++tries) {
-            Type("\x04");
-            for (int waited = 0; waited < 100; ++waited) {
-                int status = 0;
-                if (waitpid(pid_, &status, WNOHANG) == pid_) {
-                    pid_ = -1;
-                    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-                }
-                usleep(10'000);
+        Type("quit\r");
+        for (int waited = 0; waited < 2000; ++waited) {
+            int status = 0;
+            if (waitpid(pid_, &status, WNOHANG) == pid_) {
+                pid_ = -1;
+                return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
             }
+            usleep(10'000);
         }
         return -1;  // the destructor ends it
     }
@@ -91,13 +87,13 @@ TEST(ShellAtATerminal, KeepsHistoryCompletesAndAsksWhatABoxNeeds) {
         ASSERT_TRUE(shell.WaitFor("tarnwell> ")) << shell.Shown();
         shell.Type("echo remembered\r");
         ASSERT_TRUE(shell.WaitFor("# remembered")) << shell.Shown();
-        EXPECT_EQ(shell.EndAtThePrompt(), 0) << shell.Shown();
+        EXPECT_EQ(shell.QuitAtThePrompt(), 0) << shell.Shown();
     }
     EXPECT_TRUE(std::filesystem::exists(home / ".local/state/tarnwell/history"));
 
     ShellAtATerminal shell(home.Path());
     ASSERT_TRUE(shell.WaitFor("tarnwell> ")) << shell.Shown();
-    shell.Type("\x1b[A\r");  // the line of the last run, recalled with the Up key
+    shell.Type("\x1b[A\x1b[A\r");  // the last run's line before its quit, recalled with Up
     ASSERT_TRUE(shell.WaitFor("# remembered")) << shell.Shown();
 
     shell.Type("hel\tsave-a\t\r");  // Tab completes the verb and the verb asked about
@@ -110,7 +106,7 @@ TEST(ShellAtATerminal, KeepsHistoryCompletesAndAsksWhatABoxNeeds) {
     ASSERT_TRUE(shell.WaitFor("answer (Yes, No)> ")) << shell.Shown();
     shell.Type("no\r");
     ASSERT_TRUE(shell.WaitFor("[Yes No] title \"Delete from all assemblies\" -> No")) << shell.Shown();
-    EXPECT_EQ(shell.EndAtThePrompt(), 0) << shell.Shown();
+    EXPECT_EQ(shell.QuitAtThePrompt(), 0) << shell.Shown();
 }
 
 }  // namespace
