@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "simhost/FormatPosition.h"
 #include "simhost/HostNames.h"
 #include "simhost/PropertyCatalog.h"
 #include "simhost/SimFormat.h"
@@ -83,8 +84,10 @@ public:
     DocData Document(std::string_view text);
 
 private:
+    // "FILE: line L, column C: WHERE: WHAT", the line and column those of the value named.
     [[noreturn]] void Fail(const std::string& where, const std::string& what) const {
-        std::string at = where.empty() ? "" : where + ": ";
+        std::string at =
+            where.empty() ? "" : LineAndColumn(text_, LocateValue(text_, where)) + ": " + where + ": ";
         throw support::Error(support::errors::kFail, file_ + ": " + at + what);
     }
     void OnlyFields(const Json& obj, const std::string& where,
@@ -108,6 +111,7 @@ private:
     host::Matrix Transform(const Json& v, const std::string& where) const;
 
     std::string file_;
+    std::string_view text_;
 };
 
 std::string Quoted(std::string_view s) {
@@ -278,7 +282,7 @@ void Reader::Materials(const Json& v, DocData& data) const {
     std::set<std::string> seen;
     int n = 0;
     for (const auto& entry : AnArray(v, "materials")) {
-        std::string where = "material " + std::to_string(++n);
+        std::string where = "materials " + std::to_string(++n);
         OnlyFields(
             AnObject(entry, where), where,
             {"name", "density", "renderStyle", "location", "linearExpansion", "poissonsRatio", "specificHeat",
@@ -314,7 +318,7 @@ void Reader::Materials(const Json& v, DocData& data) const {
 void Reader::TitleBlocks(const Json& v, DocData& data) const {
     int n = 0;
     for (const auto& entry : AnArray(v, "titleBlocks")) {
-        std::string where = "title block " + std::to_string(++n);
+        std::string where = "titleBlocks " + std::to_string(++n);
         OnlyFields(AnObject(entry, where), where, {"name", "textBoxes"});
         if (!entry.contains("name")) Fail(where, "needs \"name\"");
         TitleBlockData block;
@@ -330,7 +334,7 @@ void Reader::RenderStyles(const Json& v, DocData& data) const {
     std::set<std::string> seen;
     int n = 0;
     for (const auto& entry : AnArray(v, "renderStyles")) {
-        std::string where = "render style " + std::to_string(++n);
+        std::string where = "renderStyles " + std::to_string(++n);
         OnlyFields(AnObject(entry, where), where,
                    {"name", "location", "opacity", "shininess", "texture", "textureScale", "textureRotation",
                     "ambient", "diffuse", "specular", "emissive"});
@@ -387,7 +391,7 @@ void Reader::Occurrences(const Json& v, DocData& data) const {
     std::set<std::string> names;
     int n = 0;
     for (const auto& entry : AnArray(v, "occurrences")) {
-        std::string where = "occurrence " + std::to_string(++n);
+        std::string where = "occurrences " + std::to_string(++n);
         OnlyFields(AnObject(entry, where), where, {"name", "file", "visible", "grounded", "transform"});
         if (!entry.contains("file")) Fail(where, "needs \"file\"");
         OccurrenceData occ;
@@ -405,21 +409,8 @@ void Reader::Occurrences(const Json& v, DocData& data) const {
     }
 }
 
-// Where a byte of the text lies, as a person counts: line and column from 1.
-std::string LineAndColumn(std::string_view text, std::size_t offset) {
-    std::size_t line = 1, column = 1;
-    for (std::size_t i = 0; i < offset && i < text.size(); ++i) {
-        if (text[i] == '\n') {
-            ++line;
-            column = 1;
-        } else {
-            ++column;
-        }
-    }
-    return "line " + std::to_string(line) + ", column " + std::to_string(column);
-}
-
 DocData Reader::Document(std::string_view text) {
+    text_ = text;
     // A key given twice in one object would silently keep the last value: refused instead.
     std::string duplicate;
     struct Watch {

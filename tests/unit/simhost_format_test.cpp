@@ -2,6 +2,7 @@
 
 #include "host/Codes.h"
 #include "host/Properties.h"
+#include "simhost/FormatPosition.h"
 #include "simhost/SimFormat.h"
 #include "simhost_fixture.h"
 
@@ -141,11 +142,11 @@ TEST(FormatRefusals, BadFilesAreRefusedNamingTheFile) {
         {R"({"savedBy": 9})", "no document type"},
         {R"({"type": "drawing", "occurrences": []})", "unknown field \"occurrences\""},
         {R"({"type": "assembly", "occurrences": [{"name": "A:1", "file": "C:\\A.ipt", "hidden": true}]})",
-         "occurrence 1: unknown field \"hidden\""},
+         "line 1, column 38: occurrences 1: unknown field \"hidden\""},
         {R"({"type": "assembly", "occurrences": [{"name": "A:1", "file": "C:\\A.ipt"}, {"name": "A:1", "file": "C:\\B.ipt"}]})",
          "a second occurrence named \"A:1\""},
         {R"({"type": "part", "properties": {"Design Tracking Properties": {"Cost": "12.50"}}})",
-         "Cost: must be a currency value"},
+         "line 1, column 72: properties/Design Tracking Properties/Cost: must be a currency value"},
         {R"({"type": "part", "properties": {"Design Tracking Properties": {"Colour": "red"}}})",
          "unknown property \"Colour\""},
         {R"({"type": "part", "properties": {"Design Tracking Properties": {"Material": "Steel"}}})",
@@ -219,6 +220,38 @@ TEST_F(FormatLoadTest, UnnamedOccurrencesGetDefaultNamesAndMissingPropertiesRead
     EXPECT_EQ(design->Item(14)->Value(), support::Variant(""));
     EXPECT_EQ(design->Item(21)->Value(), support::Variant(support::Currency{}));
     EXPECT_EQ(doc->PropertySets()->Item(1)->ItemByPropId(2)->Value(), support::Variant(""));
+}
+
+}  // namespace
+}  // namespace simhost_test
+
+namespace simhost_test {
+namespace {
+
+// A refusal points at the value it is about: keys with spaces, slashes and escapes, array
+// elements by number, and as deep as the text goes when the rest is missing.
+TEST(FormatPositions, AMessageLeadsToItsValue) {
+    using simhost::format::LineAndColumn;
+    using simhost::format::LocateValue;
+    const std::string text =
+        "{\n"
+        "  \"type\": \"assembly\",\n"
+        "  \"properties\": {\"User Defined Properties\": {\"Size 2\": 1, \"A/B\": 2, \"Caf\\u00e9\": 3}},\n"
+        "  \"occurrences\": [\n"
+        "    {\"file\": \"C:\\\\x.ipt\"},\n"
+        "    {\"name\": \"[a]\", \"file\": 7}\n"
+        "  ]\n"
+        "}\n";
+    auto at = [&](const char* where) { return LineAndColumn(text, LocateValue(text, where)); };
+    EXPECT_EQ(at("type"), "line 2, column 11");
+    EXPECT_EQ(at("properties/User Defined Properties/Size 2"), "line 3, column 56");
+    EXPECT_EQ(at("properties/User Defined Properties/A/B"), "line 3, column 66");
+    EXPECT_EQ(at("properties/User Defined Properties/Caf\xc3\xa9"), "line 3, column 82");
+    EXPECT_EQ(at("occurrences 2/file"), "line 6, column 29");
+    EXPECT_EQ(at("occurrences 2"), "line 6, column 5");
+    EXPECT_EQ(at("occurrences 9/file"), "line 4, column 18");  // no ninth: the array
+    EXPECT_EQ(at("materials 1"), "line 1, column 1");          // nothing of it: the document
+    EXPECT_EQ(LineAndColumn(text, text.size() + 5), "line 9, column 1");
 }
 
 }  // namespace
