@@ -13,7 +13,9 @@
 
 namespace win::adapter {
 
-// An adapted object: a host/ interface implemented over one host object.
+// An adapted object: a host/ interface implemented over one host object. One that raises
+// events listens to the host while the add-in holds it, as a WithEvents variable does: a
+// subscription alone does not keep it.
 class Adapted {
 public:
     Adapted(const char* kind, com::ComPtr<IDispatch> object, Context context)
