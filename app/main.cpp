@@ -89,7 +89,8 @@ int main(int argc, char** argv) {
     }
     if (command == "run" && argc == 3) return RunScript(argv[2], false);
 #ifdef TARNWELL_THROUGH_COM
-    if (command == "run" && argc == 4 && std::string(argv[2]) == "--through-com") return RunScript(argv[3], true);
+    if (command == "run" && argc == 4 && std::string(argv[2]) == "--through-com")
+        return RunScript(argv[3], true);
 #endif
     if (command == "shell" && argc == 2) return RunShell();
     if (command == "--help" || command == "-h") {

@@ -168,7 +168,8 @@ constexpr HostMember kMembers[] = {
     {"RenderStyle", "SetSpecularColor", "call (0x3006C06)", "Red, Green, Blue", ""},
     {"RenderStyle", "GetEmissiveColor", "call (0x3006C07)", "[out] Red, Green, Blue (Byte)", ""},
     {"RenderStyle", "SetEmissiveColor", "call (0x3006C08)", "Red, Green, Blue", ""},
-    {"UnitsOfMeasure", "GetStringFromValue", "call", "Value, UnitsSpecifier (UnitsTypeEnum or text)", "String"},
+    {"UnitsOfMeasure", "GetStringFromValue", "call", "Value, UnitsSpecifier (UnitsTypeEnum or text)",
+     "String"},
     {"UnitsOfMeasure", "GetValueFromExpression", "call", "Expression, UnitsSpecifier", "Double"},
     {"UnitsOfMeasure", "GetStringFromType", "call", "UnitsType", "String"},
     {"UnitsOfMeasure", "MassUnits", "get/put", "", "UnitsTypeEnum"},
@@ -205,11 +206,12 @@ constexpr HostMember kMembers[] = {
     {"SelectEvents", "OnSelect (0x03005584)", "event",
      "JustSelectedEntities, SelectionDevice, ModelPosition, ViewPosition, View; sink {2E19A8EE-...}", ""},
     {"SelectEvents", "OnPreSelect (0x03005581)", "event",
-     "PreSelectEntity, [out] DoHighlight, MorePreSelectEntities, SelectionDevice, ModelPosition, ViewPosition, "
+     "PreSelectEntity, [out] DoHighlight, MorePreSelectEntities, SelectionDevice, ModelPosition, "
+     "ViewPosition, "
      "View",
      ""},
-    {"UserInputEvents", "OnContextMenuOld (0x03002204)", "event", "SelectionDevice, AdditionalInfo, CommandBar",
-     ""},
+    {"UserInputEvents", "OnContextMenuOld (0x03002204)", "event",
+     "SelectionDevice, AdditionalInfo, CommandBar", ""},
     {"UserInputEvents", "OnContextMenu (0x03002206)", "event",
      "SelectionDevice, AdditionalInfo, CommandBar; sink {711F30CD-...}", ""},
     {"ObjectsEnumerator", "Count", "get", "", "Long"},
@@ -251,7 +253,8 @@ std::string HostMembersMarkdown() {
             object = m.object;
             text += "\n## " + object + "\n\n| member | access | arguments | returns |\n|---|---|---|---|\n";
         }
-        text += "| " + std::string(m.member) + " | " + m.access + " | " + m.arguments + " | " + m.returns + " |\n";
+        text += "| " + std::string(m.member) + " | " + m.access + " | " + m.arguments + " | " + m.returns +
+                " |\n";
     }
     return text;
 }

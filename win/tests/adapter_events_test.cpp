@@ -49,7 +49,8 @@ TEST_F(AdapterEventsTest, ButtonsOfTheSitesFactoryClickAndKeepTheHostsRefusal) {
     EXPECT_EQ(clicks, 2);
 
     host.SetRefuseIcons(true);
-    EXPECT_EQ(test_support::ErrorNumber([&] { site->CreateButtonDefinition("TarnwellCmd2", 4, "P", "", "", true); }),
+    EXPECT_EQ(test_support::ErrorNumber(
+                  [&] { site->CreateButtonDefinition("TarnwellCmd2", 4, "P", "", "", true); }),
               support::errors::kUnexpected);
     EXPECT_FALSE(site->CreateButtonDefinition("TarnwellCmd2", 4, "P", "", "", false)->HasIcon());
 }
@@ -57,9 +58,13 @@ TEST_F(AdapterEventsTest, ButtonsOfTheSitesFactoryClickAndKeepTheHostsRefusal) {
 // The add-in lets its button go inside the button's own click: the sink is cut off and
 // unadvised while the host still raises the event through it, and nothing more arrives.
 TEST_F(AdapterEventsTest, ASinkReleasedWhileItsEventIsRaisedHearsNoMore) {
-    auto button = site->CreateButtonDefinition("TarnwellDone", host::kFileOperationsCmdType, "Close", "", "", false);
-    app->UserInterfaceManager()->CommandBars()->Item("AMxWeldmentCmdBar")->Controls()->Add(host::kBarControlButton,
-                                                                                        button);
+    auto button =
+        site->CreateButtonDefinition("TarnwellDone", host::kFileOperationsCmdType, "Close", "", "", false);
+    app->UserInterfaceManager()
+        ->CommandBars()
+        ->Item("AMxWeldmentCmdBar")
+        ->Controls()
+        ->Add(host::kBarControlButton, button);
     int clicks = 0;
     support::Connection subscription = button->OnExecute().Subscribe([&] {
         ++clicks;

@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "host/Codes.h"
+#include "host/Component.h"
 #include "host/Document.h"
 #include "host/Properties.h"
 #include "host/Styles.h"
-#include "host/Component.h"
 #include "tests/unit/simhost_fixture.h"
 #include "win/adapter/HostAdapter.h"
 #include "win/com/ComObject.h"
@@ -40,7 +40,8 @@ protected:
     }
     // The face of the stand-in's documents, called as another client would.
     com::Dispatch FaceDocuments() {
-        com::Dispatch application(DispatchOf(com::Dispatch(face).Invoke(kApplicationId, DISPATCH_PROPERTYGET)));
+        com::Dispatch application(
+            DispatchOf(com::Dispatch(face).Invoke(kApplicationId, DISPATCH_PROPERTYGET)));
         return com::Dispatch(DispatchOf(application.Get("Documents")));
     }
     static com::ComPtr<IDispatch> DispatchOf(const Variant& value) {
@@ -73,18 +74,25 @@ TEST_F(AdapterTest, OptionalArgumentsLeftOutOrEmptyTakeTheHostsDefaults) {
 TEST_F(AdapterTest, TextOutsideAsciiCrossesBothWays) {
     auto adapted = app->Documents()->Open("C:\\Work\\Spur Gear.ipt");
     auto direct = host.Application()->ActiveDocument();
-    const std::string title = "Zahnrad \xC3\x98" "40 \xE2\x80\x93 \xE6\xAD\xAF\xE8\xBB\x8A \xF0\x9F\x94\xA7";
+    const std::string title =
+        "Zahnrad \xC3\x98"
+        "40 \xE2\x80\x93 \xE6\xAD\xAF\xE8\xBB\x8A \xF0\x9F\x94\xA7";
     adapted->PropertySets()->Item(host::kSummaryInformationSet)->ItemByPropId(2)->SetValue(title);
-    EXPECT_EQ(direct->PropertySets()->Item(host::kSummaryInformationSet)->ItemByPropId(2)->Value(), Variant(title));
+    EXPECT_EQ(direct->PropertySets()->Item(host::kSummaryInformationSet)->ItemByPropId(2)->Value(),
+              Variant(title));
 
-    direct->SetDisplayName("Gr\xC3\xB6\xC3\x9F" "e");
-    EXPECT_EQ(adapted->DisplayName(), "Gr\xC3\xB6\xC3\x9F" "e");
+    direct->SetDisplayName(
+        "Gr\xC3\xB6\xC3\x9F"
+        "e");
+    EXPECT_EQ(adapted->DisplayName(),
+              "Gr\xC3\xB6\xC3\x9F"
+              "e");
 }
 
 TEST_F(AdapterTest, DatesAndCurrencyKeepTheirType) {
     auto adapted = app->Documents()->Open("C:\\Work\\Spur Gear.ipt");
     auto custom = adapted->PropertySets()->Item(host::kUserDefinedSet);
-    const support::Date due{46000.75};  // an afternoon in 2025
+    const support::Date due{46000.75};       // an afternoon in 2025
     const support::Currency price{1234567};  // 123.4567
     custom->Add(Variant(due), "Due");
     custom->Add(Variant(price), "Price");
@@ -106,8 +114,8 @@ TEST_F(AdapterTest, HostErrorsKeepNumberAndTextWithOrWithoutExcepInfo) {
     com::Dispatch documents = FaceDocuments();
     com::ComVariant name(Variant("C:\\Work\\Nothing.ipt"));
     DISPPARAMS params{&name.Get(), nullptr, 1, 0};
-    HRESULT hr = documents.Object()->Invoke(documents.IdOf("Open"), IID_NULL, 0, DISPATCH_METHOD, &params, nullptr,
-                                            nullptr, nullptr);
+    HRESULT hr = documents.Object()->Invoke(documents.IdOf("Open"), IID_NULL, 0, DISPATCH_METHOD, &params,
+                                            nullptr, nullptr, nullptr);
     EXPECT_EQ(hr, static_cast<HRESULT>(0x800A0000 | direct.Number()));
 
     // What the host's object model lacks is the platform's "doesn't support this property".
@@ -120,16 +128,26 @@ TEST_F(AdapterTest, OneHostObjectIsOneObjectToTheAddIn) {
     EXPECT_EQ(app->ActiveDocument(), active);
     auto documents = app->Documents();
     for (std::int32_t i = 1; i <= documents->Count(); ++i)
-        if (documents->Item(i)->FullFileName() == active->FullFileName()) EXPECT_EQ(documents->Item(i), active);
+        if (documents->Item(i)->FullFileName() == active->FullFileName())
+            EXPECT_EQ(documents->Item(i), active);
     auto edited = app->ActiveEditObject();
     EXPECT_EQ(edited, active) << "the same object, whatever route reached it";
     EXPECT_EQ(edited->Type(), host::kAssemblyDocumentObjectType);
     auto occurrence = active->ComponentDefinition()->Occurrences()->Item(1);
-    EXPECT_EQ(occurrence->Definition()->Document()->FullFileName(),
-              host.Application()->ActiveDocument()->ComponentDefinition()->Occurrences()->Item(1)
-                  ->Definition()->Document()->FullFileName());
-    EXPECT_EQ(occurrence->Transformation(),
-              host.Application()->ActiveDocument()->ComponentDefinition()->Occurrences()->Item(1)->Transformation());
+    EXPECT_EQ(occurrence->Definition()->Document()->FullFileName(), host.Application()
+                                                                        ->ActiveDocument()
+                                                                        ->ComponentDefinition()
+                                                                        ->Occurrences()
+                                                                        ->Item(1)
+                                                                        ->Definition()
+                                                                        ->Document()
+                                                                        ->FullFileName());
+    EXPECT_EQ(occurrence->Transformation(), host.Application()
+                                                ->ActiveDocument()
+                                                ->ComponentDefinition()
+                                                ->Occurrences()
+                                                ->Item(1)
+                                                ->Transformation());
 }
 
 TEST_F(AdapterTest, ColoursComeBackThroughBytesByReference) {
