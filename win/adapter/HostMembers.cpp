@@ -195,6 +195,10 @@ constexpr HostMember kMembers[] = {
     {"CommandBarControl", "ControlDefinition", "get", "", "ButtonDefinition"},
     {"CommandManager", "CreateInteractionEvents", "call", "", "InteractionEvents"},
     {"CommandManager", "UserInputEvents", "get", "", "UserInputEvents"},
+    {"CommandManager", "ControlDefinitions", "get", "", "ControlDefinitions (the later factory's)"},
+    {"ControlDefinitions", "AddButtonDefinition", "call",
+     "DisplayName, InternalName, Classification, ClientId, DescriptionText, ToolTipText, [StandardIcon]",
+     "ButtonDefinition"},
     {"InteractionEvents", "SelectEvents", "get", "", "SelectEvents"},
     {"InteractionEvents", "SelectionActive", "put", "", "Boolean (name to confirm)"},
     {"InteractionEvents", "Start", "call", "", ""},
@@ -245,8 +249,11 @@ std::string HostMembersMarkdown() {
         "the list differ; the adapter refuses to call a member the list does not name. The first\n"
         "run in the real host checks these names, argument orders and DISPIDs against its type\n"
         "library; \"to confirm\" marks the names that no source at hand settles.\n\n"
-        "Buttons are made with the site's `CreateButtonDefinition` (releases 7 to 9), which\n"
-        "returns a ButtonDefinitionHandler raising `OnClick`.\n";
+        "Buttons: the adapter calls the site's `CreateButtonDefinition` (releases 7 to 9), which\n"
+        "returns a ButtonDefinitionHandler raising `OnClick`. Only where the host answers 438\n"
+        "(no such member) does it use the later factory, `ControlDefinitions.AddButtonDefinition`,\n"
+        "whose ButtonDefinition raises `OnExecute`. The stand-in's face is of releases 7 to 9: the\n"
+        "transcript tests run the first factory; a unit test runs the second against a later site.\n";
     std::string object;
     for (const HostMember& m : kMembers) {
         if (object != m.object) {

@@ -6,6 +6,7 @@
 #include "host/Component.h"
 #include "tests/unit/simhost_fixture.h"
 #include "win/adapter/HostAdapter.h"
+#include "win/com/ComObject.h"
 #include "win/com/DispatchObject.h"
 #include "win/hostface/HostFace.h"
 
@@ -17,7 +18,7 @@ protected:
     void SetUp() override {
         ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));
         SimHostTest::SetUp();
-        site = AdaptSite(hostface::SiteFace(host.Site()));
+        site = AdaptSite(hostface::SiteFace(host.Site()), "{00000000-0000-0000-0000-000000000001}");
         app = site->Application();
     }
     void TearDown() override {
@@ -42,11 +43,15 @@ TEST_F(AdapterEventsTest, ButtonsOfTheSitesFactoryClickAndKeepTheHostsRefusal) {
     auto control = bar->Controls()->Add(host::kBarControlButton, button);
     EXPECT_EQ(control->ControlType(), host::kBarControlButton);
     EXPECT_EQ(control->ControlDefinition()->DisplayName(), "Tarnwell");
-    int clicks = 0;
+    int clicks = 0, executions = 0;
     auto subscription = button->OnExecute().Subscribe([&] { ++clicks; });
+    // The placed definition raises the later releases' OnExecute for the same click.
+    auto definition = control->ControlDefinition();
+    auto execution = definition->OnExecute().Subscribe([&] { ++executions; });
     host.ClickButton("TarnwellCmd1");
     host.ClickButton("TarnwellCmd1");
     EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(executions, 2);
 
     host.SetRefuseIcons(true);
     EXPECT_EQ(test_support::ErrorNumber(
@@ -112,6 +117,50 @@ TEST_F(AdapterEventsTest, SelectionsAndContextMenusArriveAsHostObjects) {
         [&](std::int32_t, host::ObjectPtr, std::shared_ptr<host::CommandBar> bar) { barName = bar->Name(); });
     host.ContextMenu();
     EXPECT_FALSE(barName.empty()) << "the bar about to be shown reaches the handler";
+}
+
+// A host of a later release, as far as making a button goes: its site has no
+// CreateButtonDefinition; its application's command manager has ControlDefinitions. One
+// object plays the site, the application, the command manager, the collection and the
+// definition it returns.
+class LaterHost : public com::DispatchObject<> {
+public:
+    std::vector<support::Variant> added;  // AddButtonDefinition's arguments
+
+protected:
+    std::span<const com::Member> Members() const override {
+        static const com::Member members[] = {{0x03001401, L"Application"},
+                                              {1, L"CommandManager"},
+                                              {2, L"ControlDefinitions"},
+                                              {3, L"AddButtonDefinition"},
+                                              {4, L"InternalName"}};
+        return members;
+    }
+    support::Variant Call(DISPID id, WORD, const com::InvokeArgs& args) override {
+        if (id == 3)
+            for (std::size_t i = 0; i < args.Count(); ++i) added.push_back(args.At(i));
+        if (id == 4) return added.at(1);
+        return support::Variant(std::make_shared<com::ComObject>(com::ComPtr<IDispatch>(this)));
+    }
+    bool Answers(REFIID) const override { return false; }
+};
+
+TEST(LaterHostButtons, AHostWithoutTheSitesFactoryGetsTheLaterOne) {
+    ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));
+    {
+        auto later = com::DispatchObject<>::Make<LaterHost>();
+        auto site = AdaptSite(later, "{00000000-0000-0000-0000-000000000002}");
+        site->Application();
+        auto button =
+            site->CreateButtonDefinition("TarnwellCmd1", 4, "Tarnwell", "Description", "Tip", false);
+        // DisplayName first, then InternalName, Classification, ClientId; no icon: left out.
+        EXPECT_EQ(later->added, (std::vector<support::Variant>{"Tarnwell", "TarnwellCmd1", std::int32_t(4),
+                                                               "{00000000-0000-0000-0000-000000000002}",
+                                                               "Description", "Tip", support::Variant()}));
+        EXPECT_EQ(button->InternalName(), "TarnwellCmd1");
+    }
+    EXPECT_EQ(com::LiveObjectCount(), 0);
+    CoUninitialize();
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ protected:
         ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));
         SimHostTest::SetUp();
         face = hostface::SiteFace(host.Site());
-        site = AdaptSite(face);
+        site = AdaptSite(face, kClientId);
         app = site->Application();
     }
     void TearDown() override {
@@ -48,6 +48,7 @@ protected:
         return static_cast<const com::ComObject&>(*value.ToObject()).Dispatch();
     }
     static constexpr DISPID kApplicationId = 0x03001401;
+    static constexpr const char* kClientId = "{00000000-0000-0000-0000-000000000001}";
 
     com::ComPtr<IDispatch> face;
     std::shared_ptr<host::AddInSite> site;
