@@ -164,5 +164,53 @@ TEST_F(AdapterTest, ColoursComeBackThroughBytesByReference) {
     EXPECT_EQ(style->Name(), "Signal Red");
 }
 
+// A placement crosses as the host's Matrix, cell by cell, both ways.
+TEST_F(AdapterTest, PlacementsCrossAsTheHostsMatrix) {
+    auto top = app->Documents()->Open("C:\\Work\\Gearbox.iam");
+    host::Matrix where = host::Matrix::Translation(1.5, -2, 30.25);
+    where.cell[0][0] = 0;
+    where.cell[0][1] = -1;
+    where.cell[1][0] = 1;
+    where.cell[1][1] = 0;
+    auto placed = top->ComponentDefinition()->Occurrences()->Add("C:\\Work\\Cover Plate.ipt", where);
+    EXPECT_EQ(placed->Transformation(), where);
+    auto direct = host.Application()->ActiveDocument()->ComponentDefinition()->Occurrences();
+    EXPECT_EQ(direct->Item(direct->Count())->Transformation(), where);
+    EXPECT_EQ(placed->Name(), direct->Item(direct->Count())->Name());
+}
+
+// What the add-in asks a kind it cannot know beforehand: an object it only asks for its Type.
+TEST_F(AdapterTest, AnObjectOfNoKnownKindStillSaysWhatItIs) {
+    host.Open("C:\\Work\\Gearbox.iam");
+    host.SetEditMode(simhost::EditMode::Sketch);
+    auto edited = app->ActiveEditObject();
+    ASSERT_NE(edited, nullptr);
+    EXPECT_EQ(edited->Type(), host::kPlanarSketchObject);
+    EXPECT_EQ(std::dynamic_pointer_cast<host::Document>(edited), nullptr);
+    host.SetEditMode(simhost::EditMode::InPlace, "Shaft Assembly:1");
+    EXPECT_EQ(app->ActiveEditObject()->Type(), host.Application()->ActiveEditObject()->Type());
+}
+
+// Units given by enum or as text reach the same host member; one undo reverts what a
+// transaction made through the adapter.
+TEST_F(AdapterTest, UnitsEitherWayAndTransactionsUndoAsOne) {
+    auto top = app->Documents()->Open("C:\\Work\\Gearbox.iam");
+    auto units = top->UnitsOfMeasure();
+    auto directUnits = host.Application()->ActiveDocument()->UnitsOfMeasure();
+    EXPECT_EQ(units->GetStringFromValue(2.5, host::kKilogramMassUnits),
+              directUnits->GetStringFromValue(2.5, host::kKilogramMassUnits));
+    EXPECT_EQ(units->GetStringFromValue(12.0, "mm^3"), directUnits->GetStringFromValue(12.0, "mm^3"));
+    EXPECT_EQ(units->GetValueFromExpression("4.4 lbmass", host::kKilogramMassUnits),
+              directUnits->GetValueFromExpression("4.4 lbmass", host::kKilogramMassUnits));
+
+    auto transaction = app->TransactionManager()->StartTransaction(top, "Rename");
+    top->SetDisplayName("GB-1000");
+    top->ComponentDefinition()->Occurrences()->Item(1)->SetName("First:1");
+    transaction->End();
+    host.Undo();
+    EXPECT_EQ(top->DisplayName(), "Gearbox.iam");
+    EXPECT_NE(top->ComponentDefinition()->Occurrences()->Item(1)->Name(), "First:1");
+}
+
 }  // namespace
 }  // namespace win::adapter
