@@ -6,6 +6,7 @@
 #include <io.h>
 #endif
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <optional>
@@ -24,31 +25,69 @@
 
 namespace {
 
+constexpr const char* kUsage =
+    "usage: tarnwell run [--strict] SCRIPT\n"
+    "                             play a session script; the transcript goes to standard output;\n"
+    "                             --strict ends it at the first failed line or add-in error (status 3)\n"
 #ifdef TARNWELL_THROUGH_COM
-constexpr const char* kUsage =
-    "usage: tarnwell run SCRIPT   play a session script; the transcript goes to standard output\n"
-    "       tarnwell run --through-com SCRIPT\n"
+    "       tarnwell run --through-com [--strict] SCRIPT\n"
     "                             the same, with every host call crossing COM\n"
-    "       tarnwell shell        type the same lines; each effect is printed as it happens\n"
-    "       tarnwell --version\n";
-#else
-constexpr const char* kUsage =
-    "usage: tarnwell run SCRIPT   play a session script; the transcript goes to standard output\n"
-    "       tarnwell shell        type the same lines; each effect is printed as it happens\n"
-    "       tarnwell --version\n";
 #endif
+    "       tarnwell shell        type the same lines; each effect is printed as it happens\n"
+    "       tarnwell --version\n";
 
-int RunScript(const std::string& path, bool throughCom) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {  // a script that is not there is a wrong command line
-        std::cerr << "tarnwell: cannot read " << path << "\n";
-        return 2;
+struct RunOptions {
+    std::string script;
+    bool strict = false;
+    bool throughCom = false;
+};
+
+// The words after "run"; nullopt when they are not a run command line.
+std::optional<RunOptions> ParseRun(int argc, char** argv) {
+    RunOptions options;
+    for (int i = 2; i < argc; ++i) {
+        std::string word = argv[i];
+        if (word == "--strict") {
+            options.strict = true;
+#ifdef TARNWELL_THROUGH_COM
+        } else if (word == "--through-com") {
+            options.throughCom = true;
+#endif
+        } else if (word.starts_with("--") || !options.script.empty()) {
+            return std::nullopt;
+        } else {
+            options.script = word;
+        }
     }
+    if (options.script.empty()) return std::nullopt;
+    return options;
+}
+
+// The script's text; nullopt, with a message, when it cannot be read: a wrong command line.
+std::optional<std::string> ReadScript(const std::string& path) {
+    std::error_code ec;
+    if (std::filesystem::is_directory(path, ec)) {
+        std::cerr << "tarnwell: " << path << " is a folder, not a script\n";
+        return std::nullopt;
+    }
+    std::ifstream in(path, std::ios::binary);
     std::stringstream text;
-    text << in.rdbuf();
+    if (in) text << in.rdbuf();
+    if (!in || in.bad()) {
+        std::cerr << "tarnwell: cannot read " << path << ": "
+                  << (std::filesystem::exists(path, ec) ? "permission denied" : "no such file") << "\n";
+        return std::nullopt;
+    }
+    return text.str();
+}
+
+int RunScript(const RunOptions& options) {
+    const std::string& path = options.script;
+    auto text = ReadScript(path);
+    if (!text) return 2;
     std::vector<session::ScriptLine> lines;
     try {
-        lines = session::ParseScript(text.str());
+        lines = session::ParseScript(*text);
         session::CheckScript(lines);
     } catch (const ui::headless::ScriptError& e) {
         std::cout << "script error: " << e.Describe() << "\n";
@@ -57,12 +96,13 @@ int RunScript(const std::string& path, bool throughCom) {
     }
 #ifdef TARNWELL_THROUGH_COM
     std::optional<win::app::ThroughCom> com;  // outlives the session and the objects it holds
-    if (throughCom) com.emplace();
+    if (options.throughCom) com.emplace();
 #endif
     session::Session session(std::cout, settings::IniFileStore::DefaultPath());
 #ifdef TARNWELL_THROUGH_COM
     if (com) com->Wire(session);
 #endif
+    session.SetStrict(options.strict);
     session::ScriptSource source(std::move(lines));
     int status = session.Run(source);
     for (const auto& error : session.Errors()) std::cerr << "tarnwell: " << path << ": " << error << "\n";
@@ -87,11 +127,8 @@ int main(int argc, char** argv) {
         std::cout << "tarnwell " << TARNWELL_VERSION << "\n";
         return 0;
     }
-    if (command == "run" && argc == 3) return RunScript(argv[2], false);
-#ifdef TARNWELL_THROUGH_COM
-    if (command == "run" && argc == 4 && std::string(argv[2]) == "--through-com")
-        return RunScript(argv[3], true);
-#endif
+    if (command == "run")
+        if (auto options = ParseRun(argc, argv)) return RunScript(*options);
     if (command == "shell" && argc == 2) return RunShell();
     if (command == "--help" || command == "-h") {
         std::cout << kUsage;

@@ -16,6 +16,7 @@
 #include "host/Application.h"
 #include "host/Document.h"
 #include "purge/walk/PurgeWalk.h"
+#include "simhost/HostCalls.h"
 #include "simhost/SimHost.h"
 
 namespace fs = std::filesystem;
@@ -69,6 +70,8 @@ double Seconds(std::chrono::steady_clock::time_point start) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+constexpr int kFirstSize = 50;
+
 void Run(const fs::path& root, int subs) {
     int documents = GenerateTree(root, subs);
     simhost::SimHost host;
@@ -78,10 +81,19 @@ void Run(const fs::path& root, int subs) {
     double open = Seconds(start);
     CountingSink sink;
     start = std::chrono::steady_clock::now();
+    simhost::HostCalls::Start();
     purge::PurgeWalk({*host.Application(), host.FileSystem(), sink, true}).PurgeTree(top);
     double walk = Seconds(start);
-    std::printf("%5d documents: open %.3f s, purge %.3f s = %.3f ms a document (%d lines)\n", documents, open,
-                walk, 1000 * walk / documents, sink.lines);
+    simhost::HostCalls::Stop();
+    std::printf(
+        "%5d documents: open %.3f s, purge %.3f s = %.3f ms a document (%d lines), %.1f host calls a "
+        "document\n",
+        documents, open, walk, 1000 * walk / documents, sink.lines,
+        static_cast<double>(simhost::HostCalls::Total()) / documents);
+    if (subs == kFirstSize)  // the same at every size
+        for (const auto& [member, count] : simhost::HostCalls::Counts())
+            std::printf("    %-36s %6.2f a document\n", member.c_str(),
+                        static_cast<double>(count) / documents);
     host.CloseAll();
     for (auto& entry : fs::recursive_directory_iterator(root))
         fs::permissions(entry.path(), fs::perms::owner_write, fs::perm_options::add);
@@ -93,5 +105,6 @@ void Run(const fs::path& root, int subs) {
 int main(int argc, char** argv) {
     const char* tmp = std::getenv("TMPDIR");
     fs::path scratch = argc > 1 ? fs::path(argv[1]) : fs::path(tmp ? tmp : "/tmp");
-    for (int subs : {50, 100}) Run(scratch / ("tarnwell-purge-bench-" + std::to_string(subs)), subs);
+    for (int subs : {kFirstSize, 2 * kFirstSize})
+        Run(scratch / ("tarnwell-purge-bench-" + std::to_string(subs)), subs);
 }

@@ -50,6 +50,14 @@ SimDocumentPtr DocumentStore::Find(const std::string& fullFileName) const {
     return it == byName_.end() ? nullptr : it->second->shared_from_this();
 }
 
+SimDocumentPtr DocumentStore::FindLoaded(const std::string& fullFileName) const {
+    try {
+        return Find(fullFileName);
+    } catch (const Error&) {  // not a path: the load that follows says so
+        return nullptr;
+    }
+}
+
 void DocumentStore::Register(const SimDocumentPtr& doc) {
     doc->session.loaded = true;
     documents_.push_back(doc);
@@ -75,6 +83,12 @@ SimDocumentPtr DocumentStore::LoadTree(const std::string& fullFileName, std::vec
         PendingLoad& top = *stack.back();
         if (top.next < top.refs.size()) {
             FileRef& ref = *top.refs[top.next];
+            // A file already loaded is taken as it is, without asking the disk again: an
+            // assembly places the same few parts thousands of times.
+            if (auto loaded = FindLoaded(ref.file)) {
+                Attach(top, loaded);
+                continue;
+            }
             bool found = false;
             try {
                 found = state_.fileSystem.FileExists(ref.file);

@@ -49,6 +49,7 @@ public:
 
 private:
     SimDocumentPtr Load(const std::string& fullFileName);
+    SimDocumentPtr FindLoaded(const std::string& fullFileName) const;  // Find, null for a non-path
     struct PendingLoad;
     SimDocumentPtr LoadTree(const std::string& fullFileName, std::vector<SimDocumentPtr>& added,
                             std::unordered_set<std::string>& loading);

@@ -2,6 +2,9 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <set>
+#include <stdexcept>
+#include <unordered_map>
+#include <utility>
 
 #include "simhost/HostNames.h"
 #include "simhost/PropertyCatalog.h"
@@ -12,7 +15,65 @@ namespace simhost::format {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+// The library's ordered map finds a key by searching its list, so reading an object of n
+// keys (a part's thousands of properties) costs n*n/2 comparisons. This one keeps the
+// order and finds a key through a hash index. It hides every look-up of the base; the
+// index is rebuilt whenever the list changed size behind its back.
+template <class Key, class T, class Less = std::less<Key>,
+          class Allocator = std::allocator<std::pair<const Key, T>>>
+class IndexedMap : public nlohmann::ordered_map<Key, T, Less, Allocator> {
+    using Base = nlohmann::ordered_map<Key, T, Less, Allocator>;
+
+public:
+    using Base::Base;
+    using typename Base::const_iterator;
+    using typename Base::iterator;
+    using typename Base::size_type;
+
+    std::pair<iterator, bool> emplace(const Key& key, T&& value) {
+        if (auto found = find(key); found != this->end()) return {found, false};
+        if (this->size() >= kListedUpTo) index_.emplace(key, this->size());
+        this->emplace_back(key, std::move(value));
+        return {std::prev(this->end()), true};
+    }
+    // The parser asks for a key's slot each time the key is written, so a second asking
+    // while a document is read is a key given twice in one object.
+    T& operator[](const Key& key) {
+        auto [slot, fresh] = emplace(key, T{});
+        if (!fresh && firstRepeatedKey && firstRepeatedKey->empty()) *firstRepeatedKey = key;
+        return slot->second;
+    }
+    static inline thread_local std::string* firstRepeatedKey = nullptr;
+    iterator find(const Key& key) { return this->begin() + Position(key); }
+    const_iterator find(const Key& key) const { return this->begin() + Position(key); }
+    size_type count(const Key& key) const { return Position(key) < this->size() ? 1 : 0; }
+    T& at(const Key& key) { return const_cast<T&>(std::as_const(*this).at(key)); }
+    const T& at(const Key& key) const {
+        std::size_t position = Position(key);
+        if (position == this->size()) throw std::out_of_range("no such key");
+        return (this->begin() + position)->second;
+    }
+
+private:
+    // The key's place in the list, or the list's size when absent.
+    std::size_t Position(const Key& key) const {
+        if (this->size() <= kListedUpTo) {  // a few keys: a search costs less than an index
+            for (std::size_t i = 0; i < this->size(); ++i)
+                if ((this->begin() + i)->first == key) return i;
+            return this->size();
+        }
+        if (index_.size() != this->size()) {
+            index_.clear();
+            for (std::size_t i = 0; i < this->size(); ++i) index_.emplace((this->begin() + i)->first, i);
+        }
+        auto it = index_.find(key);
+        return it == index_.end() ? this->size() : it->second;
+    }
+    static constexpr std::size_t kListedUpTo = 16;
+    mutable std::unordered_map<Key, std::size_t> index_;
+};
+
+using Json = nlohmann::basic_json<IndexedMap>;
 
 // Reads one file; every refusal names the file and where in it the fault lies.
 class Reader {
@@ -360,19 +421,15 @@ std::string LineAndColumn(std::string_view text, std::size_t offset) {
 
 DocData Reader::Document(std::string_view text) {
     // A key given twice in one object would silently keep the last value: refused instead.
-    std::vector<std::set<std::string>> keys;
     std::string duplicate;
-    auto watch = [&](int /*depth*/, Json::parse_event_t event, Json& parsed) {
-        if (event == Json::parse_event_t::object_start) keys.emplace_back();
-        if (event == Json::parse_event_t::object_end && !keys.empty()) keys.pop_back();
-        if (event == Json::parse_event_t::key && !keys.empty() &&
-            !keys.back().insert(parsed.get<std::string>()).second && duplicate.empty())
-            duplicate = parsed.get<std::string>();
-        return true;
+    struct Watch {
+        explicit Watch(std::string& sink) { Json::object_t::firstRepeatedKey = &sink; }
+        ~Watch() { Json::object_t::firstRepeatedKey = nullptr; }
     };
     Json doc;
     try {
-        doc = Json::parse(text, watch);
+        Watch watch(duplicate);
+        doc = Json::parse(text);
     } catch (const Json::parse_error& e) {
         // The byte the parser stopped at is one past the fault.
         Fail("", "not a valid JSON document: " + LineAndColumn(text, e.byte > 0 ? e.byte - 1 : 0));

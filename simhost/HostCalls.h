@@ -21,7 +21,9 @@ public:
     class Scope {
     public:
         explicit Scope(std::size_t id) {
-            if (depth_++ == 0 && counting_) ++counts_[id];
+            if (depth_++ > 0) return;
+            ++operation_;
+            if (counting_) ++counts_[id];
         }
         ~Scope() { --depth_; }
         Scope(const Scope&) = delete;
@@ -36,6 +38,10 @@ public:
         Uncounted& operator=(const Uncounted&) = delete;
     };
 
+    // The outermost call in progress, numbered from 1; 0 when none is. While one runs the
+    // disk changes only through the stand-in, so what it learnt of the disk holds.
+    static std::uint64_t Operation() { return depth_ > 0 ? operation_ : 0; }
+
     static void Start();  // zeroes the counters and starts counting
     static void Stop() { counting_ = false; }
     static bool Counting() { return counting_; }
@@ -47,6 +53,7 @@ private:
     static constexpr std::size_t kMaxMembers = 512;
     static inline bool counting_ = false;
     static inline int depth_ = 0;
+    static inline std::uint64_t operation_ = 0;
     static inline std::uint64_t counts_[kMaxMembers] = {};
 };
 

@@ -8,6 +8,7 @@
 #include "simhost/SimServices.h"
 #include "simhost/SimState.h"
 #include "support/Error.h"
+#include "support/Suggest.h"
 
 using support::Error;
 namespace errors = support::errors;
@@ -148,9 +149,12 @@ std::shared_ptr<SimOccurrence> SimApplication::FindOccurrence(const std::string&
         if (end == std::string::npos) end = path.size();
         std::string name = path.substr(start, end - start);
         const OccurrenceData* occ = doc->FindOccurrenceByName(name);
-        if (!occ)
+        if (!occ) {
+            std::vector<std::string> names;
+            for (const auto& held : doc->Data().occurrences) names.push_back(held.name);
             throw Error(errors::kFail, "No occurrence \"" + path + "\": " + doc->DisplayName() +
-                                           " holds no \"" + name + "\"");
+                                           " holds no \"" + name + "\"" + support::DidYouMean(name, names));
+        }
         uids.push_back(occ->uid);
         doc = occ->ref.doc.get();
         start = end + 1;

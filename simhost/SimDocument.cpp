@@ -62,6 +62,8 @@ void SimDocument::Restore(DocData data, bool dirty) {
     data_ = std::move(data);
     dirty_ = dirty;
     indexStale_ = true;
+    takenBelow_.clear();
+    PropertiesMoved();
     if (!session.loaded) return;
     auto adopt = [&](FileRef& ref) {
         ref.doc = state_.documents.Adopt(ref.doc);
@@ -96,6 +98,12 @@ void SimDocument::RequireAssembly(const char* member) const {
     if (data_.kind != DocKind::Assembly)
         throw Error(errors::kFail, std::string(member) + " is only available on an assembly; " +
                                        DisplayName() + " is a " + KindName(data_.kind));
+}
+
+PropertyIndex& SimDocument::PropertiesOf(std::size_t set) const {
+    if (propertyIndex_.size() != data_.propertySets.size())
+        propertyIndex_.assign(data_.propertySets.size(), {});
+    return propertyIndex_.at(set);
 }
 
 // --- occurrences
@@ -134,12 +142,41 @@ OccurrenceData& SimDocument::MutableOccurrence(std::int64_t uid) {
     return data_.occurrences[byUid_.at(uid)];
 }
 
+namespace {
+// n for a name "base:n", else 0.
+long DefaultNumber(const std::string& name, std::string_view base) {
+    if (name.size() <= base.size() + 1 || name.size() > base.size() + 10 ||
+        name.compare(0, base.size(), base) != 0 || name[base.size()] != ':')
+        return 0;
+    long n = 0;
+    for (std::size_t i = base.size() + 1; i < name.size(); ++i) {
+        if (name[i] < '0' || name[i] > '9') return 0;
+        n = n * 10 + (name[i] - '0');
+    }
+    return n;
+}
+}  // namespace
+
+// The smallest "base:n" that no occurrence but `exceptUid` holds.
 std::string SimDocument::FreeDefaultName(const std::string& base, std::int64_t exceptUid) const {
-    for (long n = 1;; ++n) {
+    long& n = takenBelow_.try_emplace(base, 1).first->second;
+    if (const OccurrenceData* own = exceptUid ? FindOccurrence(exceptUid) : nullptr)
+        if (long m = DefaultNumber(own->name, base); m > 0 && m < n) return own->name;
+    for (;; ++n) {
         std::string candidate = base + ":" + std::to_string(n);
         const OccurrenceData* holder = FindOccurrenceByName(candidate);
         if (!holder || holder->uid == exceptUid) return candidate;
     }
+}
+
+// The name is free again; a default name lowers its base's mark.
+void SimDocument::ReleaseName(const std::string& name) {
+    byName_.erase(name);
+    auto colon = name.rfind(':');
+    if (colon == std::string::npos) return;
+    auto mark = takenBelow_.find(name.substr(0, colon));
+    if (mark == takenBelow_.end()) return;
+    if (long n = DefaultNumber(name, mark->first); n > 0 && n < mark->second) mark->second = n;
 }
 
 bool SimDocument::IsDefaultName(const OccurrenceData& occ) const {
@@ -199,6 +236,7 @@ void SimDocument::RemoveOccurrence(std::int64_t uid) {
     std::size_t index = byUid_.at(uid);
     DocData& data = Edit();
     SimDocumentPtr target = data.occurrences[index].ref.doc;
+    ReleaseName(data.occurrences[index].name);
     data.occurrences.erase(data.occurrences.begin() + static_cast<long>(index));
     indexStale_ = true;
     state_.documents.DropReferrer(target);
@@ -212,7 +250,7 @@ void SimDocument::RenameOccurrence(std::int64_t uid, const std::string& name) {
     if (FindOccurrenceByName(wanted))
         throw Error(errors::kInvalidArg, "The name \"" + wanted + "\" is already used in " + DisplayName());
     OccurrenceData& target = MutableOccurrence(uid);
-    byName_.erase(target.name);
+    ReleaseName(target.name);
     byName_[wanted] = uid;
     target.name = wanted;
 }
@@ -242,8 +280,8 @@ void SimDocument::ReplaceOccurrence(std::int64_t uid, const SimDocumentPtr& targ
         occ.ref = FileRef{target->FullFileName(), target};
         state_.documents.AddReferrer(target);
         if (defaultNamed) {
+            ReleaseName(occ.name);
             std::string name = FreeDefaultName(target->BaseNameForOccurrences(), u);
-            byName_.erase(occ.name);
             byName_[name] = u;
             occ.name = name;
         }

@@ -8,6 +8,7 @@
 #include "host/Document.h"
 #include "simhost/DocData.h"
 #include "simhost/HostCalls.h"
+#include "simhost/PropertyIndex.h"
 
 namespace simhost {
 
@@ -36,6 +37,10 @@ public:
     const DocData& Data() const { return data_; }
     DocData& Edit();  // not for occurrences: use the operations below
     void Restore(DocData data, bool dirty);
+    // The look-up of the stored properties of the set at that position; dropped whenever
+    // properties or sets are added or removed other than by appending a property.
+    PropertyIndex& PropertiesOf(std::size_t set) const;
+    void PropertiesMoved() { propertyIndex_.clear(); }
     void SetFullFileName(std::string name) { fullFileName_ = std::move(name); }
     // The file now matches the document: clean, saved by this release in this view.
     void MarkSaved(std::int32_t savedBy, std::int32_t thumbnail);
@@ -124,6 +129,7 @@ private:
     OccurrenceData& MutableOccurrence(std::int64_t uid);
     void Reindex() const;
     std::string FreeDefaultName(const std::string& base, std::int64_t exceptUid) const;
+    void ReleaseName(const std::string& name);
     bool IsDefaultName(const OccurrenceData& occ) const;
 
     SimState& state_;
@@ -135,6 +141,11 @@ private:
     mutable bool indexStale_ = true;
     mutable std::unordered_map<std::int64_t, std::size_t> byUid_;
     mutable std::unordered_map<std::string, std::int64_t> byName_;
+    // For each default-name base, a number below which every "base:n" is taken, so that
+    // naming thousands of occurrences of one file does not count up from 1 each time.
+    // Lowered when such a name is let go; forgotten when names go wholesale.
+    mutable std::unordered_map<std::string, long> takenBelow_;
+    mutable std::vector<PropertyIndex> propertyIndex_;
 
     std::unordered_map<std::string, std::weak_ptr<SimOccurrence>> handles_;
     std::size_t handlesPruneAt_ = 256;

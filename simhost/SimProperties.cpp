@@ -50,10 +50,13 @@ bool HasDefinitions(int setIndex) {
     return setIndex < catalog::kUserDefinedSet;
 }
 
-StoredProperty* FindStored(std::vector<StoredProperty>& list, std::int32_t id) {
-    for (auto& p : list)
-        if (p.id == id) return &p;
-    return nullptr;
+const StoredProperty* FindStored(const SimDocument& doc, int set, std::int32_t id) {
+    return doc.PropertiesOf(set).ById(doc.Data().propertySets[set].properties, id);
+}
+
+StoredProperty* EditStored(SimDocument& doc, int set, std::int32_t id) {
+    auto& list = doc.Edit().propertySets[set].properties;
+    return const_cast<StoredProperty*>(doc.PropertiesOf(set).ById(list, id));
 }
 
 bool PlainValue(const Variant& v) {
@@ -109,8 +112,7 @@ std::string SimProperty::Name() const {
     SIM_HOST_CALL("Property.Name");
     int set = ExistingSet(*doc_, formatId_);
     if (HasDefinitions(set)) return catalog::FindById(catalog::StandardSets()[set], propId_)->name;
-    for (const auto& p : doc_->Data().propertySets[set].properties)
-        if (p.id == propId_) return p.name;
+    if (const StoredProperty* p = FindStored(*doc_, set, propId_)) return p->name;
     throw Error(errors::kFail, "The property no longer exists in " + doc_->DisplayName());
 }
 
@@ -120,8 +122,7 @@ Variant SimProperty::Value() const {
     const DocData& data = doc_->Data();
     if (set == catalog::kDesignTrackingSet && propId_ == catalog::kMaterialId && data.kind == DocKind::Part)
         return data.material;
-    for (const auto& p : data.propertySets[set].properties)
-        if (p.id == propId_) return p.value;
+    if (const StoredProperty* p = FindStored(*doc_, set, propId_)) return p->value;
     if (!HasDefinitions(set))
         throw Error(errors::kFail, "The property no longer exists in " + doc_->DisplayName());
     if (catalog::FindById(catalog::StandardSets()[set], propId_)->kind == catalog::ValueKind::Currency)
@@ -137,7 +138,7 @@ void SimProperty::SetValue(const Variant& value) {
         throw Error(errors::kTypeMismatch, "Type mismatch: \"" + name + "\" takes no value of this kind");
     doc_->RequireStorableValue(value);
     if (!HasDefinitions(set)) {  // a custom property takes any plain value
-        if (Value() != value) FindStored(doc_->Edit().propertySets[set].properties, propId_)->value = value;
+        if (Value() != value) EditStored(*doc_, set, propId_)->value = value;
         return;
     }
     const catalog::PropertyDef& def = *catalog::FindById(catalog::StandardSets()[set], propId_);
@@ -155,15 +156,19 @@ void SimProperty::SetValue(const Variant& value) {
         doc_->Edit().material = material;
         return;
     }
-    auto& list = doc_->Edit().propertySets[set].properties;
     bool empty = stored->Type() == VariantType::String && stored->As<std::string>()->empty();
-    if (StoredProperty* p = FindStored(list, propId_)) {
-        if (empty)
-            std::erase_if(list, [&](const StoredProperty& q) { return q.id == propId_; });
-        else
+    if (StoredProperty* p = EditStored(*doc_, set, propId_)) {
+        if (!empty) {
             p->value = *stored;
+            return;
+        }
+        std::erase_if(doc_->Edit().propertySets[set].properties,
+                      [&](const StoredProperty& q) { return q.id == propId_; });
+        doc_->PropertiesMoved();
     } else if (!empty) {
+        auto& list = doc_->Edit().propertySets[set].properties;
         list.push_back({def.name, def.id, *stored});
+        doc_->PropertiesOf(set).NoteAppended(list);
     }
 }
 
@@ -175,6 +180,7 @@ void SimProperty::Delete() {
     Name();
     std::erase_if(doc_->Edit().propertySets[set].properties,
                   [&](const StoredProperty& p) { return p.id == propId_; });
+    doc_->PropertiesMoved();
 }
 
 // --- property set
@@ -219,9 +225,9 @@ std::shared_ptr<host::Property> SimPropertySet::Item(const std::string& name) {
     int set = ExistingSet(*doc_, formatId_);
     if (HasDefinitions(set)) {
         if (const auto* def = catalog::FindByName(catalog::StandardSets()[set], name)) return Handle(def->id);
-    } else {
-        for (const auto& p : doc_->Data().propertySets[set].properties)
-            if (p.name == name) return Handle(p.id);
+    } else if (const StoredProperty* p =
+                   doc_->PropertiesOf(set).ByName(doc_->Data().propertySets[set].properties, name)) {
+        return Handle(p->id);
     }
     throw Error(errors::kInvalidArg,
                 "PropertySet.Item: no property named \"" + name + "\" in " + DisplayName());
@@ -232,9 +238,8 @@ std::shared_ptr<host::Property> SimPropertySet::ItemByPropId(std::int32_t propId
     int set = ExistingSet(*doc_, formatId_);
     if (HasDefinitions(set)) {
         if (catalog::FindById(catalog::StandardSets()[set], propId)) return Handle(propId);
-    } else {
-        for (const auto& p : doc_->Data().propertySets[set].properties)
-            if (p.id == propId) return Handle(p.id);
+    } else if (FindStored(*doc_, set, propId)) {
+        return Handle(propId);
     }
     throw Error(errors::kInvalidArg,
                 "PropertySet.ItemByPropId: no property " + std::to_string(propId) + " in " + DisplayName());
@@ -250,19 +255,16 @@ std::shared_ptr<host::Property> SimPropertySet::Add(const Variant& value, const 
     doc_->RequireStorableValue(value);
     doc_->RequireStorable(name);
     if (name.empty()) throw Error(errors::kInvalidArg, "A property needs a name");
-    const auto& list = doc_->Data().propertySets[set].properties;
-    std::int32_t maxId = catalog::kFirstCustomId - 1;
-    for (const auto& p : list) {
-        if (p.name == name)
-            throw Error(errors::kInvalidArg,
-                        "The property \"" + name + "\" already exists in " + DisplayName());
-        if (p.id == propId)
-            throw Error(errors::kInvalidArg,
-                        "The property identifier " + std::to_string(propId) + " is taken");
-        maxId = std::max(maxId, p.id);
-    }
-    std::int32_t id = propId ? propId : maxId + 1;
-    doc_->Edit().propertySets[set].properties.push_back({name, id, value});
+    PropertyIndex& index = doc_->PropertiesOf(set);
+    const auto& stored = doc_->Data().propertySets[set].properties;
+    if (index.ByName(stored, name))
+        throw Error(errors::kInvalidArg, "The property \"" + name + "\" already exists in " + DisplayName());
+    if (propId && index.ById(stored, propId))
+        throw Error(errors::kInvalidArg, "The property identifier " + std::to_string(propId) + " is taken");
+    std::int32_t id = propId ? propId : index.MaxId(stored, catalog::kFirstCustomId - 1) + 1;
+    auto& list = doc_->Edit().propertySets[set].properties;
+    list.push_back({name, id, value});
+    doc_->PropertiesOf(set).NoteAppended(list);
     return Handle(id);
 }
 
@@ -273,6 +275,7 @@ void SimPropertySet::Delete() {
         throw Error(errors::kFail, "The standard set " + DisplayName() + " cannot be deleted");
     auto& sets = doc_->Edit().propertySets;
     sets.erase(sets.begin() + set);
+    doc_->PropertiesMoved();
 }
 
 // --- property sets
@@ -307,6 +310,7 @@ std::shared_ptr<host::PropertySet> SimPropertySets::Add(const std::string& name,
     for (std::size_t salt = 0; id.empty() || FindSet(doc_->Data(), id) >= 0; ++salt)
         id = GeneratedFormatId(name, salt);
     doc_->Edit().propertySets.push_back({name, id, {}});
+    doc_->PropertiesMoved();
     return std::make_shared<SimPropertySet>(doc_, id);
 }
 

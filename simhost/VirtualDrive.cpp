@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "simhost/HostCalls.h"
 #include "simhost/WinPath.h"
 #include "support/Error.h"
 #include "support/Text.h"
@@ -21,13 +22,15 @@ void VirtualDrive::Map(char letter, const fs::path& folder) {
 }
 
 const VirtualDrive::Listing* VirtualDrive::ListingOf(const fs::path& hostFolder, bool trustCache) const {
-    if (trustCache)
-        if (auto held = cache_.find(hostFolder.string()); held != cache_.end()) return &held->second;
+    const std::uint64_t operation = HostCalls::Operation();
+    if (auto held = cache_.find(hostFolder.string()); held != cache_.end())
+        if (trustCache || (operation != 0 && held->second.checkedIn == operation)) return &held->second;
     std::error_code ec;
     auto stamp = fs::last_write_time(hostFolder, ec);
     if (ec) return nullptr;
     auto [it, inserted] = cache_.try_emplace(hostFolder.string());
     Listing& listing = it->second;
+    listing.checkedIn = operation;
     if (!inserted && listing.stamp == stamp) return &listing;
     listing.stamp = stamp;
     listing.byLower.clear();

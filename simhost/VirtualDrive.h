@@ -1,4 +1,5 @@
 #pragma once
+#include <cstdint>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -41,11 +42,13 @@ private:
     };
     struct Listing {
         std::filesystem::file_time_type stamp;
+        std::uint64_t checkedIn = 0;  // the host operation that last compared the stamp
         std::unordered_map<std::string, Entry> byLower;
     };
-    // The folder's listing, read again when the folder changed on disk. With trustCache a
-    // listing already held is used without asking the disk: the walk down a path checks
-    // only the folder that holds the last name, and re-checks the others on a miss.
+    // The folder's listing, read again when the folder changed on disk. A listing checked
+    // in the host operation under way is not checked again. With trustCache a listing
+    // already held is used without asking the disk: the walk down a path checks only the
+    // folder that holds the last name, and re-checks the others on a miss.
     const Listing* ListingOf(const std::filesystem::path& hostFolder, bool trustCache = false) const;
     void Restamp(const std::filesystem::path& hostFolder, Listing& listing) const;
 

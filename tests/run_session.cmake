@@ -8,7 +8,11 @@ if(NOT settings_file)
   set(settings_file /tmp)
 endif()
 set(ENV{TARNWELL_SETTINGS} ${settings_file}/tarnwell-session-${name}-${tag}.ini)
-# EMULATOR runs a Windows build's program (under Wine); OPTIONS go before the script.
+# EMULATOR runs a Windows build's program (under Wine); OPTIONS go before the script. A
+# script named strict_* is played with --strict.
+if(name MATCHES "^strict_")
+  list(APPEND OPTIONS --strict)
+endif()
 execute_process(
   COMMAND ${EMULATOR} ${TARNWELL} run ${OPTIONS} ${SCRIPT}
   WORKING_DIRECTORY ${SOURCE_DIR}

@@ -6,6 +6,7 @@
 #include "app/session/Session.h"
 #include "app/session/Verb.h"
 #include "support/Error.h"
+#include "support/Suggest.h"
 #include "ui/Form.h"
 #include "ui/headless/ScriptError.h"
 
@@ -59,9 +60,15 @@ void RequireNotBehindModal(Session& s, const ui::Form& form) {
 
 // The user reaches a control only on a form that shows, when the control is visible and
 // enabled; otherwise the action fails as the form would refuse it.
+[[noreturn]] void NoControl(const ui::Form& form, const std::string& name) {
+    std::vector<std::string> names;
+    for (const auto& control : form.Controls()) names.push_back(control->Name());
+    throw ScriptError("form " + form.Name() + " has no control " + name + support::DidYouMean(name, names));
+}
+
 ui::Control& Reach(Session& s, ui::Form& form, const std::string& name) {
     auto* control = form.Find(name);
-    if (!control) throw ScriptError("form " + form.Name() + " has no control " + name);
+    if (!control) NoControl(form, name);
     if (!form.Visible())
         throw support::Error(support::errors::kInvalidCall, "Form " + form.Name() + " is not visible");
     RequireNotBehindModal(s, form);
@@ -214,9 +221,13 @@ void ClickMenu(Session& s, const Args& args) {
     auto item = std::find_if(menus.begin(), menus.end(), [&](const ui::MenuItem& m) {
         return m.Name == target.member && m.Index == target.index;
     });
-    if (item == menus.end())
+    if (item == menus.end()) {
+        std::vector<std::string> names;
+        for (const auto& menu : menus) names.push_back(menu.Name);
         throw ScriptError("form " + form.Name() + " has no menu " + target.member +
-                          (target.index >= 0 ? "(" + std::to_string(target.index) + ")" : ""));
+                          (target.index >= 0 ? "(" + std::to_string(target.index) + ")" : "") +
+                          support::DidYouMean(target.member, names));
+    }
     if (!form.Visible())
         throw support::Error(support::errors::kInvalidCall, "Form " + form.Name() + " is not visible");
     RequireNotBehindModal(s, form);
@@ -229,7 +240,7 @@ void PrintControl(Session& s, const Args& args) {
     Target target = ParseTarget(args, 0);
     auto& form = s.LoadedForm(target.form);
     auto* control = form.Find(target.member);
-    if (!control) throw ScriptError("form " + form.Name() + " has no control " + target.member);
+    if (!control) NoControl(form, target.member);
     s.Transcript().Write(DescribeControl(form, *control));
 }
 
@@ -270,7 +281,8 @@ void AddFormVerbs(std::vector<Verb>& verbs) {
                          a.Int(2);
                      }});
     // Every form belongs to the add-in: acting on one runs its code.
-    for (std::size_t i = first; i < verbs.size(); ++i) verbs[i].reachesAddin = verbs[i].name != "print control";
+    for (std::size_t i = first; i < verbs.size(); ++i)
+        verbs[i].reachesAddin = verbs[i].name != "print control";
 }
 
 }  // namespace session

@@ -85,6 +85,22 @@ void CheckOptionalWord(const Args& args, std::size_t i, std::string_view word) {
     if (args.Count() > i && !args.Is(i, word)) args.Fail("the only option is " + std::string(word));
 }
 
+// What the host's Save All does: every document with unsaved changes that has a file name
+// is saved (with the documents it references). One never saved would need a name first:
+// it is left as it is and named.
+void SaveAll(Session& s, const Args&) {
+    auto documents = s.Host().Application()->Documents();
+    std::vector<host::DocumentPtr> dirty;
+    for (std::int32_t i = 1; i <= documents->Count(); ++i)
+        if (auto document = documents->Item(i); document->Dirty()) dirty.push_back(document);
+    for (const auto& document : dirty) {
+        if (document->FullFileName().empty())
+            s.Transcript().Write("not saved: " + document->DisplayName() + " has never been saved");
+        else if (document->Dirty())  // a document saved with one that references it is clean now
+            document->Save();
+    }
+}
+
 }  // namespace
 
 void AddHostVerbs(std::vector<Verb>& verbs) {
@@ -124,6 +140,9 @@ void AddHostVerbs(std::vector<Verb>& verbs) {
         {"close-document", "close-document PATH [skip-save]", 1, 2,
          [](Session& s, const Args& a) { s.LoadedDocument(a.Text(0))->Close(a.Is(1, "skip-save")); },
          [](const Args& a) { CheckOptionalWord(a, 1, "skip-save"); }});
+    verbs.push_back(
+        {"save", "save PATH", 1, 1, [](Session& s, const Args& a) { s.LoadedDocument(a.Text(0))->Save(); }});
+    verbs.push_back({"save-all", "save-all", 0, 0, SaveAll});
     verbs.push_back({"close-all", "close-all", 0, 0, [](Session& s, const Args&) { s.Host().CloseAll(); }});
     verbs.push_back(
         {"edit", "edit top | edit sketch | edit in-place OCCURRENCE-PATH", 1, 2, SetEditMode, CheckEditMode});

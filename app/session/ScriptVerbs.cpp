@@ -3,6 +3,7 @@
 #include "addin/shared/AddinState.h"
 #include "app/session/Session.h"
 #include "app/session/Verb.h"
+#include "support/Suggest.h"
 #include "ui/headless/MsgBoxNames.h"
 #include "ui/headless/ScriptError.h"
 
@@ -62,6 +63,26 @@ void AtYield(Session& s, const Args& args) {
         count, [&s, action, note] { s.Play(action, note); }, args.Line().number);
 }
 
+// The verbs a help line asks about: all of them, or those whose name is the word or
+// begins with it ("answer" gives every answer verb).
+std::vector<const Verb*> HelpFor(const Args& args) {
+    std::vector<const Verb*> found;
+    std::string word = args.Count() ? args.Text(0) : "";
+    for (const auto& verb : AllVerbs())
+        if (word.empty() || verb.name == word || verb.name.rfind(word + " ", 0) == 0) found.push_back(&verb);
+    if (found.empty()) {
+        std::vector<std::string> names;
+        for (const auto& verb : AllVerbs()) names.push_back(verb.name);
+        args.Fail("no verb " + word + support::DidYouMean(word, names));
+    }
+    return found;
+}
+
+void Help(Session& s, const Args& args) {
+    if (!args.Count()) s.Transcript().Write("verbs (help VERB shows one; docs/session.md tells more):");
+    for (const Verb* verb : HelpFor(args)) s.Transcript().Write("  " + verb->usage);
+}
+
 }  // namespace
 
 void AddScriptVerbs(std::vector<Verb>& verbs) {
@@ -80,6 +101,7 @@ void AddScriptVerbs(std::vector<Verb>& verbs) {
     verbs.push_back(AnswerVerb("answer open", "answer open PATH|cancel", Prompt::OpenFile));
     verbs.push_back(AnswerVerb("answer folder", "answer folder PATH|cancel", Prompt::Folder));
 
+    verbs.push_back({"help", "help [VERB]", 0, 1, Help, [](const Args& a) { HelpFor(a); }});
     verbs.push_back({"apppath", "apppath EXE-NAME PATH", 2, 2, [](Session& s, const Args& a) {
                          s.Platform().SetApplicationPath(a.Text(0), a.Text(1));
                      }});

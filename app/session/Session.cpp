@@ -8,6 +8,7 @@
 #include "host/Document.h"
 #include "simhost/HostCalls.h"
 #include "support/Error.h"
+#include "support/Suggest.h"
 #include "support/Text.h"
 #include "ui/Form.h"
 
@@ -46,7 +47,7 @@ int Session::Run(LineSource& source) {
         }
     } catch (const ScriptError& e) {
         ReportScriptError(e);
-        status = 1;
+        status = strictStop_ ? 3 : 1;
     }
     source_ = nullptr;
     return status;
@@ -72,14 +73,22 @@ void Session::Play(const ScriptLine& line, const std::string& note) {
         Args args(line, call.firstArg, call.verb->usage);
         std::optional<simhost::HostCalls::Uncounted> notTheAddin;
         if (!call.verb->reachesAddin) notTheAddin.emplace();
+        const int reportedBefore = platform_.ErrorsReported();
+        bool failed = false;
         try {
             call.verb->run(*this, args);
         } catch (const support::Error& e) {
             transcript_.Write("failed: error " + HexNumber(e.Number()) + ": " +
                               ui::headless::Escape(e.Description()));
+            failed = true;
         } catch (const std::exception& e) {
             // Not the host's refusal but a fault of the driver or the stand-in: stop here.
             throw ScriptError(std::string("unexpected failure: ") + e.what());
+        }
+        if (strict_ && !strictStop_ && (failed || platform_.ErrorsReported() > reportedBefore)) {
+            strictStop_ = true;
+            throw ScriptError(failed ? "the line failed, and --strict ends the script there"
+                                     : "the add-in reported an error, and --strict ends the script there");
         }
     } catch (ScriptError& e) {
         e.PlaceAt(line.number);
@@ -92,11 +101,43 @@ host::AddInSite& Session::AddInSite() {
     return *site_;
 }
 
+std::optional<ui::headless::Answer> Session::AskPerson(const std::string& description,
+                                                       const std::vector<std::string>& buttons) {
+    if (!source_ || !source_->CanAsk()) return std::nullopt;
+    std::string choices;
+    for (const auto& button : buttons) choices += (choices.empty() ? "" : ", ") + button;
+    if (choices.empty()) choices = "text or a path, \"\" for none, or cancel";
+    bool shown = false;
+    for (;;) {
+        if (!shown) transcript_.Write("? " + description);
+        auto typed = source_->Ask("answer (" + choices + ")> ");
+        if (!typed) return std::nullopt;  // a script, or the keyboard has ended
+        shown = true;
+        std::string text = support::Trim(*typed);
+        if (text.empty()) continue;
+        if (buttons.empty()) {
+            if (text == "cancel") return ui::headless::Answer{std::nullopt, 0};
+            if (text.size() >= 2 && text.front() == '"' && text.back() == '"')
+                text = text.substr(1, text.size() - 2);
+            return ui::headless::Answer{text, 0};
+        }
+        for (const auto& button : buttons)
+            if (support::LCase(button) == support::LCase(text)) return ui::headless::Answer{button, 0};
+        transcript_.Write("? " + text + " is not a button; answer " + choices);
+    }
+}
+
 ui::Form& Session::LoadedForm(const std::string& name) {
     if (auto* form = platform_.FindForm(name)) return *form;
     std::string loaded;
-    for (auto* form : platform_.LoadedForms()) loaded += (loaded.empty() ? "" : ", ") + form->Name();
-    throw ScriptError("no form " + name + " is loaded (loaded: " + (loaded.empty() ? "none" : loaded) + ")");
+    std::vector<std::string> names;
+    for (auto* form : platform_.LoadedForms()) {
+        loaded += (loaded.empty() ? "" : ", ") + form->Name();
+        names.push_back(form->Name());
+    }
+    std::string hint = support::DidYouMean(name, names);
+    throw ScriptError("no form " + name + " is loaded" +
+                      (!hint.empty() ? hint : " (loaded: " + (loaded.empty() ? "none" : loaded) + ")"));
 }
 
 void Session::ReportScriptError(const ScriptError& error) {
@@ -108,7 +149,10 @@ host::DocumentPtr Session::LoadedDocument(const std::string& fullFileName) {
     auto documents = host_.Application()->Documents();
     for (std::int32_t i = 1; i <= documents->Count(); ++i) {
         auto document = documents->Item(i);
-        if (support::LCase(document->FullFileName()) == support::LCase(fullFileName)) return document;
+        // A document never saved goes by its display name ("Part1").
+        const std::string name =
+            document->FullFileName().empty() ? document->DisplayName() : document->FullFileName();
+        if (support::LCase(name) == support::LCase(fullFileName)) return document;
     }
     throw ui::headless::ScriptError("no open document " + fullFileName);
 }

@@ -31,8 +31,12 @@ public:
     Session& operator=(const Session&) = delete;
 
     // Plays every line of `source`: 0 when all went through, 1 after a script error
-    // that stopped a script (the keyboard reports its errors and reads on).
+    // that stopped a script (the keyboard reports its errors and reads on), 3 when a strict
+    // session stopped at a failure.
     int Run(LineSource& source);
+    // Strict: a line that fails, or an error of the add-in that reaches the error report,
+    // ends the script, for callers that act on the exit status.
+    void SetStrict(bool strict) { strict_ = strict; }
     // The script errors written so far, "line 7: ...", for the caller's own report.
     const std::vector<std::string>& Errors() const { return errors_; }
 
@@ -40,6 +44,9 @@ public:
     // in the verb itself as a "failed:" line. `note` follows the echo.
     void Play(const ScriptLine& line, const std::string& note = "");
     bool PlayNext(const std::string& waitingFor) override;
+    // At the keyboard, a prompt with no queued answer shows its text and waits for one.
+    std::optional<ui::headless::Answer> AskPerson(const std::string& description,
+                                                  const std::vector<std::string>& buttons) override;
 
     simhost::SimHost& Host() { return host_; }
     // How the add-in sees the host: the stand-in's site as it is, or as another layer shows
@@ -49,7 +56,7 @@ public:
     // The site the add-in is activated with, made on first use and kept for the session.
     host::AddInSite& AddInSite();
     // The loaded document of that name, compared as the host's file system does: without
-    // case. A ScriptError when none is loaded.
+    // case; one never saved by its display name. A ScriptError when none is loaded.
     std::shared_ptr<host::Document> LoadedDocument(const std::string& fullFileName);
     ui::headless::HeadlessPlatform& Platform() { return platform_; }
     ui::headless::Transcript& Transcript() { return transcript_; }
@@ -79,6 +86,8 @@ private:
     LineSource* source_ = nullptr;
     int activations_ = 0;
     std::vector<std::string> errors_;
+    bool strict_ = false;
+    bool strictStop_ = false;
 };
 
 }  // namespace session

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "support/Suggest.h"
 #include "ui/headless/ScriptError.h"
 #include "ui/headless/Transcript.h"
 
@@ -68,8 +69,11 @@ VerbCall FindVerb(const ScriptLine& line) {
             throw ScriptError(tokens[0].text + given + " is not a verb; " + tokens[0].text + " takes " +
                               words);
         }
+        std::vector<std::string> names;
+        for (const auto& verb : AllVerbs()) names.push_back(verb.name.substr(0, verb.name.find(' ')));
+        std::string hint = support::DidYouMean(tokens[0].text, names);
         throw ScriptError("unknown verb " + ui::headless::Quote(tokens[0].text) +
-                          " (docs/session.md lists them)");
+                          (hint.empty() ? " (help lists them)" : hint));
     }
     Args args(line, call.firstArg, call.verb->usage);
     int count = static_cast<int>(args.Count());

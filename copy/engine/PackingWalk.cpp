@@ -10,14 +10,6 @@
 
 namespace copy {
 
-namespace {
-
-bool IsSubAssembly(host::ComponentOccurrence& occurrence) {
-    return occurrence.Definition()->Occurrences()->Count() >= 1;
-}
-
-}  // namespace
-
 void PackDocument(const WalkContext& context, host::Document& document, const std::string& targetDir,
                   PackSource source, bool& stopFlag) {
     context.progress.ShowStatus("Packing: " + document.FullFileName());
@@ -56,22 +48,25 @@ void PackDocument(const WalkContext& context, host::Document& document, const st
 void PackOccurrences(const WalkContext& context, host::Document& assemblyDocument,
                      const std::string& targetDir, PackSource source) {
     auto occurrences = assemblyDocument.ComponentDefinition()->Occurrences();
-    for (std::int32_t i = 1; i <= occurrences->Count(); ++i) {
+    const std::int32_t count = occurrences->Count();  // the walk adds and removes none
+    for (std::int32_t i = 1; i <= count; ++i) {
         auto occurrence = occurrences->Item(i);
-        PackOccurrence(context, *occurrence, targetDir, source);
-        if (IsSubAssembly(*occurrence))
-            PackOccurrences(context, *occurrence->Definition()->Document(), targetDir, source);
+        auto definition = PackOccurrence(context, *occurrence, targetDir, source);
+        if (definition->Occurrences()->Count() >= 1)
+            PackOccurrences(context, *definition->Document(), targetDir, source);
     }
 }
 
-void PackOccurrence(const WalkContext& context, host::ComponentOccurrence& occurrence,
-                    const std::string& targetDir, PackSource source) {
-    auto document = occurrence.Definition()->Document();
+std::shared_ptr<host::ComponentDefinition> PackOccurrence(const WalkContext& context,
+                                                          host::ComponentOccurrence& occurrence,
+                                                          const std::string& targetDir, PackSource source) {
+    auto definition = occurrence.Definition();
+    auto document = definition->Document();
     std::string from = document->FullFileName();
     std::string target = paths::WithTrailingBackslash(targetDir);
     auto parts = paths::SplitPath(from);
     // An occurrence that points into the target already was packed with an earlier one.
-    if (target == parts.directory) return;
+    if (target == parts.directory) return definition;
 
     std::string newName = target + parts.fileName;
     if (source == PackSource::Disk) {
@@ -81,7 +76,9 @@ void PackOccurrence(const WalkContext& context, host::ComponentOccurrence& occur
         document->SaveAs(newName, true);
     }
     occurrence.Replace(newName, true);
-    occurrence.Definition()->Document()->SetDisplayName("");
+    definition = occurrence.Definition();
+    definition->Document()->SetDisplayName("");
+    return definition;
 }
 
 }  // namespace copy

@@ -1,4 +1,5 @@
 #pragma once
+#include <memory>
 #include <string>
 
 #include "copy/engine/WalkContext.h"
@@ -6,6 +7,7 @@
 namespace host {
 class Document;
 class ComponentOccurrence;
+class ComponentDefinition;
 }  // namespace host
 
 // The packing half of the save-and-replace engine (modRecurseSaveNReplace), driven by
@@ -28,8 +30,10 @@ void PackDocument(const WalkContext& context, host::Document& document, const st
 void PackOccurrences(const WalkContext& context, host::Document& assemblyDocument,
                      const std::string& targetDir, PackSource source);
 // Copies the occurrence's file into targetDir unless it lies there already, and points
-// every occurrence of that file in the same parent at the copy.
-void PackOccurrence(const WalkContext& context, host::ComponentOccurrence& occurrence,
-                    const std::string& targetDir, PackSource source);
+// every occurrence of that file in the same parent at the copy. Returns the occurrence's
+// definition as the step leaves it (the copy's once replaced).
+std::shared_ptr<host::ComponentDefinition> PackOccurrence(const WalkContext& context,
+                                                          host::ComponentOccurrence& occurrence,
+                                                          const std::string& targetDir, PackSource source);
 
 }  // namespace copy

@@ -25,21 +25,26 @@ std::string FormCopyName(const std::string& fullFileName, const std::string& pre
     return paths::WithTrailingBackslash(targetDir) + prefixUsed + base + suffixUsed + extension;
 }
 
-void SaveAndReplaceOccurrence(const WalkContext& context, host::ComponentOccurrence& occurrence,
-                              const std::string& prefix, const std::string& suffix,
-                              const std::string& targetDir) {
-    auto document = occurrence.Definition()->Document();
-    std::string newName = FormCopyName(document->FullFileName(), prefix, suffix, targetDir);
+std::shared_ptr<host::ComponentDefinition> SaveAndReplaceOccurrence(const WalkContext& context,
+                                                                    host::ComponentOccurrence& occurrence,
+                                                                    const std::string& prefix,
+                                                                    const std::string& suffix,
+                                                                    const std::string& targetDir) {
+    auto definition = occurrence.Definition();
+    auto document = definition->Document();
+    const std::string source = document->FullFileName();  // saving a copy leaves it as it is
+    std::string newName = FormCopyName(source, prefix, suffix, targetDir);
 
     if (!paths::FileFound(context.fileSystem, newName)) {
         context.progress.ShowStatus("Saving: " + newName);
         document->SaveAs(newName, true);
     }
-    if (document->FullFileName() != newName) {
+    if (source != newName) {
         context.progress.ShowStatus("Replacing: " + newName + " In: " + occurrence.Name());
         occurrence.Replace(newName, false);
         context.platform.DoEvents();
-        occurrence.Definition()->Document()->SetDisplayName("");
+        definition = occurrence.Definition();
+        definition->Document()->SetDisplayName("");
     }
     // The browser name goes back to the host's default, derived from the new file; a
     // host that refuses keeps the old name, which is harmless.
@@ -47,17 +52,19 @@ void SaveAndReplaceOccurrence(const WalkContext& context, host::ComponentOccurre
         occurrence.SetName("");
     } catch (const support::Error&) {
     }
+    return definition;
 }
 
 void RecurseOccurrences(const WalkContext& context, host::Document& assemblyDocument,
                         const std::string& prefix, const std::string& suffix, const std::string& targetDir) {
     auto occurrences = assemblyDocument.ComponentDefinition()->Occurrences();
-    for (std::int32_t i = 1; i <= occurrences->Count(); ++i) {
+    const std::int32_t count = occurrences->Count();  // the walk adds and removes none
+    for (std::int32_t i = 1; i <= count; ++i) {
         auto occurrence = occurrences->Item(i);
-        SaveAndReplaceOccurrence(context, *occurrence, prefix, suffix, targetDir);
+        auto definition = SaveAndReplaceOccurrence(context, *occurrence, prefix, suffix, targetDir);
         // The definition is the copy now: its children are replaced inside it.
-        if (occurrence->Definition()->Occurrences()->Count() >= 1)
-            RecurseOccurrences(context, *occurrence->Definition()->Document(), prefix, suffix, targetDir);
+        if (definition->Occurrences()->Count() >= 1)
+            RecurseOccurrences(context, *definition->Document(), prefix, suffix, targetDir);
     }
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#include <memory>
 #include <string>
 
 #include "copy/engine/WalkContext.h"
@@ -6,6 +7,7 @@
 namespace host {
 class Document;
 class ComponentOccurrence;
+class ComponentDefinition;
 }  // namespace host
 
 // The renaming half of the save-and-replace engine (modRecurseSaveNReplace), driven by
@@ -24,10 +26,13 @@ std::string FormCopyName(const std::string& fullFileName, const std::string& pre
 // Saves a copy of the occurrence's file under its new name unless a file of that name
 // exists already (so a part placed many times is copied once), then points this one
 // occurrence at the copy and gives it back its default browser name. Host failures of
-// the save and the replace go to the caller.
-void SaveAndReplaceOccurrence(const WalkContext& context, host::ComponentOccurrence& occurrence,
-                              const std::string& prefix, const std::string& suffix,
-                              const std::string& targetDir);
+// the save and the replace go to the caller. Returns the occurrence's definition as the
+// step leaves it (the copy's once replaced), so that the walk need not ask the host again.
+std::shared_ptr<host::ComponentDefinition> SaveAndReplaceOccurrence(const WalkContext& context,
+                                                                    host::ComponentOccurrence& occurrence,
+                                                                    const std::string& prefix,
+                                                                    const std::string& suffix,
+                                                                    const std::string& targetDir);
 
 // SaveAndReplaceOccurrence on every occurrence in collection order, descending into each
 // sub-assembly (once per occurrence) after it has been replaced, so that its children are

@@ -32,7 +32,8 @@ TEST(SessionVerbs, GroupsTakeTheirSecondWordAsPartOfTheVerb) {
 }
 
 TEST(SessionVerbs, AnUnknownVerbIsNamed) {
-    EXPECT_EQ(Find("clik frmPreview.cmdClone"), "unknown verb \"clik\" (docs/session.md lists them)");
+    EXPECT_EQ(Find("clik frmPreview.cmdClone"), "unknown verb \"clik\" (did you mean click?)");
+    EXPECT_EQ(Find("xyzzy"), "unknown verb \"xyzzy\" (help lists them)");
     EXPECT_EQ(Find("answer maybe"),
               "answer \"maybe\" is not a verb; answer takes msgbox, input, save, open, folder");
     EXPECT_EQ(Find("\"click\" frmPreview.cmdClone"), "a line must begin with a verb");
@@ -79,7 +80,7 @@ TEST(SessionVerbs, AnActionAtAYieldIsCheckedAsALineOfItsOwn) {
     EXPECT_EQ(Find("at yield 3 click frmPurge.cmdStop"),
               "expected a count and a colon; usage: at yield COUNT: ACTION");
     EXPECT_EQ(Find("at yield 3: clik frmPurge.cmdStop"),
-              "unknown verb \"clik\" (docs/session.md lists them)");
+              "unknown verb \"clik\" (did you mean click?)");
     EXPECT_EQ(Find("at yield 3: click"), "too few words; usage: click FORM.CONTROL[(INDEX)]");
 }
 

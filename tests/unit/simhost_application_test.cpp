@@ -202,6 +202,34 @@ TEST_F(ApplicationTest, PropertiesAreTypedAndAddressedByPositionIdOrName) {
     EXPECT_EQ(file["customPropertySets"][1]["properties"]["Setup"]["currency"], 1.0);
 }
 
+// Look-ups by name and identifier stay right however the list changes: a property removed
+// and another added (the same length), identifiers taken after the largest, an undo.
+TEST_F(ApplicationTest, PropertyLookUpsFollowEveryChangeOfTheList) {
+    auto bracket = host.Open("C:\\Work\\Motor Bracket.ipt");
+    auto user = bracket->PropertySets()->Item("Inventor User Defined Properties");
+    std::int32_t finish = user->Item("Finish")->PropId();
+    auto tx = host.Application()->TransactionManager()->StartTransaction(bracket, "Edit");
+    user->Item("Finish")->Delete();
+    auto added = user->Add("Anodised", "Coating");
+    EXPECT_EQ(user->Count(), 4);
+    EXPECT_EQ(ErrorOf([&] { user->Item("Finish"); }).Number(), errors::kInvalidArg);
+    EXPECT_EQ(ErrorOf([&] { user->ItemByPropId(finish); }).Number(), errors::kInvalidArg);
+    EXPECT_EQ(user->Item("Coating")->Value(), support::Variant("Anodised"));
+    EXPECT_EQ(user->ItemByPropId(added->PropId())->Name(), "Coating");
+    EXPECT_GT(user->Add(std::int32_t{1}, "Next")->PropId(), added->PropId());
+    EXPECT_EQ(ErrorOf([&] { user->Add("x", "x", added->PropId()); }).Number(), errors::kInvalidArg);
+
+    auto design = bracket->PropertySets()->Item(host::kDesignTrackingSet);
+    design->ItemByPropId(29)->SetValue("");  // Description: no longer stored
+    design->Item("Vendor")->SetValue("Acme");
+    EXPECT_EQ(design->ItemByPropId(29)->Value(), support::Variant(""));
+    EXPECT_EQ(design->Item("Vendor")->Value(), support::Variant("Acme"));
+    tx->End();
+    host.Undo();
+    EXPECT_EQ(user->Item("Finish")->PropId(), finish);
+    EXPECT_EQ(ErrorOf([&] { user->Item("Coating"); }).Number(), errors::kInvalidArg);
+}
+
 TEST_F(ApplicationTest, AttributesPersistInTheModel) {
     auto gear = host.Open("C:\\Work\\Spur Gear.ipt");
     auto sets = gear->ComponentDefinition()->AttributeSets();

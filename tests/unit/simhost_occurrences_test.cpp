@@ -93,6 +93,26 @@ TEST_F(OccurrencesTest, ProxiesComposeTransformsAndKeepTheirIdentity) {
     EXPECT_EQ(ErrorOf([&] { host.FindOccurrence("Shaft Assembly:1/Nut:1"); }).Number(), errors::kFail);
 }
 
+// A default name is the smallest number free, however the numbers above it were taken
+// and freed: by adding, renaming, deleting, and an occurrence keeping its own.
+TEST_F(OccurrencesTest, ADefaultNameIsTheSmallestNumberFree) {
+    auto top = host.Open("C:\\Work\\Gearbox.iam");
+    auto list = top->ComponentDefinition()->Occurrences();
+    std::vector<std::shared_ptr<host::ComponentOccurrence>> gears;
+    for (int i = 0; i < 5; ++i) gears.push_back(list->Add("C:\\Work\\Spur Gear.ipt", {}));
+    EXPECT_EQ(gears[4]->Name(), "Spur Gear:5");
+    gears[1]->SetName("Mine");  // frees :2
+    EXPECT_EQ(list->Add("C:\\Work\\Spur Gear.ipt", {})->Name(), "Spur Gear:2");
+    gears[0]->Delete();     // frees :1
+    gears[3]->SetName("");  // :1 is smaller than its own :4
+    EXPECT_EQ(gears[3]->Name(), "Spur Gear:1");
+    gears[1]->SetName("");
+    EXPECT_EQ(gears[1]->Name(), "Spur Gear:4");
+    EXPECT_EQ(list->Add("C:\\Work\\Spur Gear.ipt", {})->Name(), "Spur Gear:6");
+    gears[3]->SetName("");  // every number below 7 is taken, its own :1 among them
+    EXPECT_EQ(gears[3]->Name(), "Spur Gear:1");
+}
+
 TEST_F(OccurrencesTest, AddAndDeleteKeepTheTreeConsistent) {
     auto top = host.Open("C:\\Work\\Gearbox.iam");
     auto list = top->ComponentDefinition()->Occurrences();

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "support/Error.h"
+#include "support/Suggest.h"
 #include "support/Text.h"
 #include "test_support.h"
 
@@ -268,3 +269,18 @@ TEST(Dates, TextRoundTrip) {
 
 }  // namespace
 }  // namespace support
+
+TEST(Suggest, TheClosestSlipOrNothing) {
+    const std::vector<std::string> verbs{"click", "check", "close", "choose", "print", "pick"};
+    EXPECT_EQ(support::ClosestMatch("clik", verbs), "click");     // a letter left out
+    EXPECT_EQ(support::ClosestMatch("cilck", verbs), "click");    // two swapped
+    EXPECT_EQ(support::ClosestMatch("CHOOSE", verbs), "choose");  // case is no slip
+    EXPECT_EQ(support::ClosestMatch("prnit", verbs), "print");
+    EXPECT_EQ(support::ClosestMatch("xyzzy", verbs), "");  // too far from all
+    EXPECT_EQ(support::ClosestMatch("pk", verbs), "");     // two edits in a short word
+    EXPECT_EQ(support::ClosestMatch("anything", {}), "");
+    // Longer names allow more: a control typed with two slips.
+    EXPECT_EQ(support::ClosestMatch("cmdCancle", {"cmdCancel", "cmdClone"}), "cmdCancel");
+    EXPECT_EQ(support::DidYouMean("cmdClon", {"cmdClone"}), " (did you mean cmdClone?)");
+    EXPECT_EQ(support::DidYouMean("zzz", {"cmdClone"}), "");
+}

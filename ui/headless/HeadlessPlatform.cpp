@@ -47,7 +47,13 @@ MsgBoxResult HeadlessPlatform::MsgBox(const std::string& prompt, int buttons, co
                                     Quote(title.empty() ? kAppTitle : title);
     const auto offered = ButtonsOf(buttons);
     MsgBoxResult result = vbOK;
-    if (auto answer = answers_.Take(Prompt::MsgBox)) {
+    auto answer = answers_.Take(Prompt::MsgBox);
+    if (!answer && offered.size() != 1 && input_) {
+        std::vector<std::string> buttons;
+        for (MsgBoxResult button : offered) buttons.push_back(ResultName(button));
+        answer = input_->AskPerson(description, buttons);
+    }
+    if (answer) {
         auto chosen = answer->text ? ParseResult(*answer->text) : std::optional<MsgBoxResult>();
         if (!chosen || std::find(offered.begin(), offered.end(), *chosen) == offered.end())
             throw ScriptError("the answer " + (answer->text ? *answer->text : "cancel") + " queued at line " +
@@ -63,6 +69,7 @@ MsgBoxResult HeadlessPlatform::MsgBox(const std::string& prompt, int buttons, co
 
 std::optional<std::string> HeadlessPlatform::Ask(Prompt prompt, const std::string& description) {
     auto answer = answers_.Take(prompt);
+    if (!answer && input_) answer = input_->AskPerson(description, {});
     if (!answer) throw ScriptError("no answer queued for " + description);
     transcript_.Write(description + " -> " + (answer->text ? Quote(*answer->text) : "cancel"));
     return answer->text;
@@ -185,6 +192,7 @@ Form* HeadlessPlatform::TopModalForm() const {
 }
 
 void HeadlessPlatform::ReportError(const support::Error& error) {
+    ++errorsReported_;
     transcript_.Write("error " + HexNumber(error.Number()) + ": " + Escape(error.Description()));
 }
 

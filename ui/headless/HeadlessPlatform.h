@@ -1,4 +1,5 @@
 #pragma once
+#include <optional>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -20,6 +21,13 @@ public:
     // Plays the user's next action; false when none is left. `waitingFor` names the
     // wait ("a blocking pick", "modal form frmX").
     virtual bool PlayNext(const std::string& waitingFor) = 0;
+    // Asks the person at the keyboard for the answer to a prompt no line queued one for:
+    // one of `buttons` for a message box, else any text or cancel. nullopt when there is
+    // no one to ask (a script) or the input has ended.
+    virtual std::optional<Answer> AskPerson(const std::string& /*description*/,
+                                            const std::vector<std::string>& /*buttons*/) {
+        return std::nullopt;
+    }
 };
 
 // The platform of tests and the session driver: every box and prompt takes its answer
@@ -31,6 +39,8 @@ public:
     explicit HeadlessPlatform(Transcript& transcript) : transcript_(transcript) {}
 
     void SetUserInput(UserInput* input) { input_ = input; }
+    // How many errors reached the error report: the add-in's unhandled errors.
+    int ErrorsReported() const { return errorsReported_; }
 
     // --- what the script sets up
     void QueueAnswer(Prompt prompt, Answer answer) { answers_.Queue(prompt, std::move(answer)); }
@@ -97,6 +107,7 @@ private:
     std::map<const Form*, std::intptr_t> owners_;
     std::vector<Scheduled> scheduled_;
     int yields_ = 0;
+    int errorsReported_ = 0;
     std::vector<Form*> loaded_;
     std::vector<Form*> modal_;  // running modal loops, outermost first
 };
