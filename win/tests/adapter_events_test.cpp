@@ -5,10 +5,22 @@
 #include "host/Commands.h"
 #include "host/Component.h"
 #include "tests/unit/simhost_fixture.h"
+#include "win/adapter/Adapted.h"
 #include "win/adapter/HostAdapter.h"
 #include "win/com/ComObject.h"
 #include "win/com/DispatchObject.h"
+#include "win/com/HostEvents.h"
+#include "win/hostface/EventFace.h"
+#include "win/hostface/Faces.h"
 #include "win/hostface/HostFace.h"
+
+// An object of the test's own that raises the user-input events, through the face's points.
+namespace win::hostface {
+struct FakeUserInput {};
+}  // namespace win::hostface
+TW_FACE_TABLE(win::hostface::FakeUserInput) {
+    return {};
+}
 
 namespace win::adapter {
 namespace {
@@ -117,6 +129,30 @@ TEST_F(AdapterEventsTest, SelectionsAndContextMenusArriveAsHostObjects) {
         [&](std::int32_t, host::ObjectPtr, std::shared_ptr<host::CommandBar> bar) { barName = bar->Name(); });
     host.ContextMenu();
     EXPECT_FALSE(barName.empty()) << "the bar about to be shown reaches the handler";
+}
+
+// Older releases raise OnContextMenuOld, later ones OnContextMenu: the add-in hears both.
+TEST(ContextMenuEvents, BothOfTheHostsContextMenuEventsReachTheAddIn) {
+    ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));
+    {
+        using Source = hostface::EventFace<hostface::FakeUserInput>;
+        auto source = com::ComPtr<Source>::Adopt(
+            new Source(std::make_shared<hostface::FakeUserInput>(), {com::kIIDUserInputEventsSink}));
+        auto input = AdaptUserInputEvents(
+            std::make_shared<AdapterContext>(),
+            support::Variant(std::make_shared<com::ComObject>(com::ComPtr<IDispatch>(source.Get()))));
+        std::vector<std::int32_t> devices;
+        auto menu = input->OnContextMenu().Subscribe(
+            [&](std::int32_t device, host::ObjectPtr, std::shared_ptr<host::CommandBar>) {
+                devices.push_back(device);
+            });
+        support::Variant nothing{std::shared_ptr<support::Object>()};
+        source->Point(0).Raise(com::kDispidOnContextMenuOld, {std::int32_t(1), nothing, nothing});
+        source->Point(0).Raise(com::kDispidOnContextMenu, {std::int32_t(2), nothing, nothing});
+        EXPECT_EQ(devices, (std::vector<std::int32_t>{1, 2}));
+    }
+    EXPECT_EQ(com::LiveObjectCount(), 0);
+    CoUninitialize();
 }
 
 // A host of a later release, as far as making a button goes: its site has no
