@@ -106,7 +106,7 @@ class AdaptedCommandBarControl : public ::host::CommandBarControl, public Adapte
 public:
     AdaptedCommandBarControl(com::ComPtr<IDispatch> o, Context c)
         : Adapted("CommandBarControl", std::move(o), std::move(c)) {}
-    std::int32_t ControlType() const override { return remote_.Long("Type"); }
+    std::int32_t ControlType() const override { return remote_.Long("ControlType"); }
     std::shared_ptr<::host::ButtonDefinition> ControlDefinition() override {
         return AdaptButtonDefinition(remote_.Shared(), remote_.Get("ControlDefinition"));
     }

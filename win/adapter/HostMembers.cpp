@@ -191,7 +191,7 @@ constexpr HostMember kMembers[] = {
     {"CommandBarControls", "Count", "get", "", "Long"},
     {"CommandBarControls", "Item", "get", "Index", "CommandBarControl"},
     {"CommandBarControls", "AddButton", "call", "ButtonDefinition", "CommandBarControl"},
-    {"CommandBarControl", "Type", "get", "", "BarControlTypeEnum"},
+    {"CommandBarControl", "ControlType", "get", "", "BarControlTypeEnum (name to confirm)"},
     {"CommandBarControl", "ControlDefinition", "get", "", "ButtonDefinition"},
     {"CommandManager", "CreateInteractionEvents", "call", "", "InteractionEvents"},
     {"CommandManager", "UserInputEvents", "get", "", "UserInputEvents"},

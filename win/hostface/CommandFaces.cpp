@@ -109,7 +109,7 @@ TW_FACE_TABLE(host::CommandBarControls) {
 
 TW_FACE_TABLE(host::CommandBarControl) {
     static const FaceMember<host::CommandBarControl> table[] = {
-        {L"Type", TW_GET(o.ControlType())},
+        {L"ControlType", TW_GET(o.ControlType())},
         {L"ControlDefinition",
          TW_GET(Face(std::make_shared<ControlDefinitionView>(ControlDefinitionView{o.ControlDefinition()})))},
     };
