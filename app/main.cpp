@@ -13,6 +13,8 @@
 #include <sstream>
 #include <string>
 
+#include "app/session/Completion.h"
+#include "app/session/LineEditor.h"
 #include "app/session/LineSource.h"
 #include "app/session/Script.h"
 #include "app/session/Session.h"
@@ -111,6 +113,15 @@ int RunScript(const RunOptions& options) {
 
 int RunShell() {
     session::Session session(std::cout, settings::IniFileStore::DefaultPath());
+    if (isatty(STDIN_FILENO) && session::LineEditor::Available()) {
+        session::LineEditor editor(session::LineEditor::DefaultHistoryFile(),
+                                   [&session](const std::string& before, const std::string& word) {
+                                       return session::Completions(session, before, word);
+                                   });
+        session::KeyboardSource source(
+            [&editor](const std::string& prompt) { return editor.ReadLine(prompt); });
+        return session.Run(source);
+    }
     session::KeyboardSource source(std::cin, std::cout, isatty(STDIN_FILENO) != 0);
     return session.Run(source);
 }
