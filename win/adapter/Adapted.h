@@ -13,7 +13,9 @@
 
 namespace win::adapter {
 
-// An adapted object: a host/ interface implemented over one host object.
+// An adapted object: a host/ interface implemented over one host object. One that raises
+// events listens to the host while the add-in holds it, as a WithEvents variable does: a
+// subscription alone does not keep it.
 class Adapted {
 public:
     Adapted(const char* kind, com::ComPtr<IDispatch> object, Context context)
@@ -53,7 +55,8 @@ std::shared_ptr<A> Make(const Context& context, const support::Variant& value, E
     return made;
 }
 
-#define TW_ADAPT(Kind) std::shared_ptr<::host::Kind> Adapt##Kind(const Context& context, const support::Variant& value)
+#define TW_ADAPT(Kind) \
+    std::shared_ptr<::host::Kind> Adapt##Kind(const Context& context, const support::Variant& value)
 TW_ADAPT(Application);
 TW_ADAPT(Camera);
 TW_ADAPT(Transaction);
@@ -98,7 +101,8 @@ TW_ADAPT(Object);  // any object, adapted as what its Type says it is
     }
 
 // The button the site's factory of releases 7 to 9 returns: a ButtonDefinitionHandler.
-std::shared_ptr<::host::ButtonDefinition> AdaptButtonHandler(const Context& context, const support::Variant& value);
+std::shared_ptr<::host::ButtonDefinition> AdaptButtonHandler(const Context& context,
+                                                             const support::Variant& value);
 // An ObjectsEnumerator's items, each adapted as what it is.
 ::host::ObjectList AdaptObjects(const Context& context, const support::Variant& enumerator);
 

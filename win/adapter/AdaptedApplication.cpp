@@ -1,6 +1,8 @@
 // The site, the application and what hangs from it directly: views, transactions, files.
+#include "support/Error.h"
 #include "win/adapter/Adapted.h"
 #include "win/adapter/HostAdapter.h"
+#include "win/com/ComObject.h"
 #include "win/com/HostEvents.h"
 #include "win/com/Picture.h"
 
@@ -12,7 +14,9 @@ class AdaptedView : public ::host::View, public Adapted {
 public:
     AdaptedView(com::ComPtr<IDispatch> o, Context c) : Adapted("View", std::move(o), std::move(c)) {}
     std::intptr_t HWND() const override { return remote_.Long("HWND"); }
-    std::shared_ptr<::host::Camera> Camera() override { return AdaptCamera(remote_.Shared(), remote_.Get("Camera")); }
+    std::shared_ptr<::host::Camera> Camera() override {
+        return AdaptCamera(remote_.Shared(), remote_.Get("Camera"));
+    }
 };
 
 class AdaptedCamera : public ::host::Camera, public Adapted {
@@ -36,14 +40,16 @@ public:
 
 class AdaptedTransaction : public ::host::Transaction, public Adapted {
 public:
-    AdaptedTransaction(com::ComPtr<IDispatch> o, Context c) : Adapted("Transaction", std::move(o), std::move(c)) {}
+    AdaptedTransaction(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("Transaction", std::move(o), std::move(c)) {}
     void End() override { remote_.Call("End"); }
     void Abort() override { remote_.Call("Abort"); }
 };
 
 class AdaptedFileManager : public ::host::FileManager, public Adapted {
 public:
-    AdaptedFileManager(com::ComPtr<IDispatch> o, Context c) : Adapted("FileManager", std::move(o), std::move(c)) {}
+    AdaptedFileManager(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("FileManager", std::move(o), std::move(c)) {}
     void CopyFile(const std::string& source, const std::string& destination, std::int32_t option) override {
         remote_.Call("CopyFile", {source, destination, option});
     }
@@ -57,9 +63,10 @@ public:
     std::string Workspace() const override { return remote_.Text("Workspace"); }
     std::string TemplatesPath() const override {
         const Context& context = remote_.Shared();
-        Remote options("FileOptions",
-                       DispatchOf(Remote("Application", context->application.Object(), context).Get("FileOptions")),
-                       context);
+        Remote options(
+            "FileOptions",
+            DispatchOf(Remote("Application", context->application.Object(), context).Get("FileOptions")),
+            context);
         return options.Text("TemplatesPath");
     }
     std::string FindDrawing(const std::string& model, const std::string& subject) const override {
@@ -69,7 +76,8 @@ public:
 
 class AdaptedApplication : public ::host::Application, public Adapted {
 public:
-    AdaptedApplication(com::ComPtr<IDispatch> o, Context c) : Adapted("Application", std::move(o), std::move(c)) {}
+    AdaptedApplication(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("Application", std::move(o), std::move(c)) {}
     std::int32_t Type() const override { return remote_.Long("Type"); }
     std::shared_ptr<::host::Document> ActiveDocument() override {
         return AdaptDocument(remote_.Shared(), remote_.Get("ActiveDocument"));
@@ -105,30 +113,59 @@ public:
     std::intptr_t MainFrameHWND() const override { return remote_.Long("MainFrameHWND"); }
     std::string Caption() const override { return remote_.Text("Caption"); }
     std::int32_t SoftwareVersionMajor() const override {
-        return Remote("SoftwareVersion", DispatchOf(remote_.Get("SoftwareVersion")), remote_.Shared()).Long("Major");
+        return Remote("SoftwareVersion", DispatchOf(remote_.Get("SoftwareVersion")), remote_.Shared())
+            .Long("Major");
     }
 };
 
+// The platform's "Object doesn't support this property or method".
+constexpr std::int32_t kMemberNotFound = 438;
+
 class AdaptedSite : public ::host::AddInSite, public Adapted {
 public:
-    AdaptedSite(com::ComPtr<IDispatch> o, Context c) : Adapted("ApplicationAddInSite", std::move(o), std::move(c)) {}
+    AdaptedSite(com::ComPtr<IDispatch> o, Context c, std::string clientId)
+        : Adapted("ApplicationAddInSite", std::move(o), std::move(c)), clientId_(std::move(clientId)) {}
     std::shared_ptr<::host::Application> Application() override {
-        support::Variant application =
-            remote_.Invoke(com::kDispidSiteApplication, DISPATCH_PROPERTYGET, "Application");
-        // Every object reached from here shares the application.
-        auto context = std::make_shared<AdapterContext>(AdapterContext{com::Dispatch(DispatchOf(application))});
-        return AdaptApplication(context, application);
+        return AdaptApplication(Shared(), AsValue(Shared()));
     }
-    std::shared_ptr<::host::ButtonDefinition> CreateButtonDefinition(const std::string& internalName,
-                                                                     std::int32_t classification,
-                                                                     const std::string& displayName,
-                                                                     const std::string& description,
-                                                                     const std::string& tooltip,
-                                                                     bool withIcon) override {
-        Arguments args{internalName, classification, displayName, description, tooltip};
-        if (withIcon) args.push_back(com::StandardIconPicture());
-        return AdaptButtonHandler(remote_.Shared(), remote_.Call("CreateButtonDefinition", args));
+
+    // The site's factory of releases 7 to 9; a host without it has the later one,
+    // ControlDefinitions.AddButtonDefinition, whose definitions raise OnExecute.
+    std::shared_ptr<::host::ButtonDefinition> CreateButtonDefinition(
+        const std::string& internalName, std::int32_t classification, const std::string& displayName,
+        const std::string& description, const std::string& tooltip, bool withIcon) override {
+        Argument icon = withIcon ? Argument(com::StandardIconPicture()) : Argument::Missing();
+        try {
+            return AdaptButtonHandler(
+                Shared(), remote_.Call("CreateButtonDefinition", {internalName, classification, displayName,
+                                                                  description, tooltip, icon}));
+        } catch (const support::Error& e) {
+            if (e.Number() != kMemberNotFound) throw;
+        }
+        Remote application("Application", Shared()->application.Object(), Shared());
+        Remote commands("CommandManager", DispatchOf(application.Get("CommandManager")), Shared());
+        Remote definitions("ControlDefinitions", DispatchOf(commands.Get("ControlDefinitions")), Shared());
+        return AdaptButtonDefinition(
+            Shared(), definitions.Call("AddButtonDefinition", {displayName, internalName, classification,
+                                                               clientId_, description, tooltip, icon}));
     }
+
+private:
+    // What every object reached from the site shares: the application, asked once.
+    const Context& Shared() {
+        if (!shared_) {
+            support::Variant application =
+                remote_.Invoke(com::kDispidSiteApplication, DISPATCH_PROPERTYGET, "Application");
+            shared_ =
+                std::make_shared<AdapterContext>(AdapterContext{com::Dispatch(DispatchOf(application))});
+        }
+        return shared_;
+    }
+    static support::Variant AsValue(const Context& context) {  // Nothing stays Nothing
+        return support::Variant(std::make_shared<com::ComObject>(context->application.Object()));
+    }
+    std::string clientId_;
+    Context shared_;
 };
 
 }  // namespace
@@ -137,8 +174,9 @@ TW_DEFINE_ADAPT(Application)
 TW_DEFINE_ADAPT(Camera)
 TW_DEFINE_ADAPT(Transaction)
 
-std::shared_ptr<::host::AddInSite> AdaptSite(com::ComPtr<IDispatch> site) {
-    return std::make_shared<AdaptedSite>(std::move(site), std::make_shared<AdapterContext>());
+std::shared_ptr<::host::AddInSite> AdaptSite(com::ComPtr<IDispatch> site, std::string clientId) {
+    return std::make_shared<AdaptedSite>(std::move(site), std::make_shared<AdapterContext>(),
+                                         std::move(clientId));
 }
 
 }  // namespace win::adapter

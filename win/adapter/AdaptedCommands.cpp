@@ -3,7 +3,6 @@
 
 #include "host/Codes.h"
 #include "support/Error.h"
-
 #include "win/adapter/Adapted.h"
 #include "win/adapter/EventSink.h"
 #include "win/com/HostEvents.h"
@@ -31,7 +30,8 @@ public:
             const auto& object = remote_.Object().Object();
             IID iid = handler_ ? Advised::OnlyOutgoingInterface(object) : com::kIIDButtonDefinitionSink;
             DISPID click = handler_ ? com::kDispidOnClick : com::kDispidOnExecute;
-            advised_.emplace(object, iid, std::vector<com::Member>{{click, handler_ ? L"OnClick" : L"OnExecute"}},
+            advised_.emplace(object, iid,
+                             std::vector<com::Member>{{click, handler_ ? L"OnClick" : L"OnExecute"}},
                              [this](DISPID, const InvokeArgs&) { onExecute_.Raise(); });
         }
         return onExecute_;
@@ -62,7 +62,8 @@ public:
 
 class AdaptedCommandBars : public ::host::CommandBars, public Adapted {
 public:
-    AdaptedCommandBars(com::ComPtr<IDispatch> o, Context c) : Adapted("CommandBars", std::move(o), std::move(c)) {}
+    AdaptedCommandBars(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("CommandBars", std::move(o), std::move(c)) {}
     std::shared_ptr<::host::CommandBar> Item(const std::string& name) override {
         return AdaptCommandBar(remote_.Shared(), remote_.Get("Item", {name}));
     }
@@ -73,7 +74,8 @@ public:
 
 class AdaptedCommandBar : public ::host::CommandBar, public Adapted {
 public:
-    AdaptedCommandBar(com::ComPtr<IDispatch> o, Context c) : Adapted("CommandBar", std::move(o), std::move(c)) {}
+    AdaptedCommandBar(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("CommandBar", std::move(o), std::move(c)) {}
     std::int32_t Type() const override { return remote_.Long("Type"); }
     std::string Name() const override { return remote_.Text("Name"); }
     std::shared_ptr<::host::CommandBarControls> Controls() override {
@@ -90,12 +92,13 @@ public:
         return AdaptCommandBarControl(remote_.Shared(), remote_.Get("Item", {index}));
     }
     // The host adds a button control with AddButton; it has no other kind the add-in places.
-    std::shared_ptr<::host::CommandBarControl> Add(std::int32_t controlType,
-                                                   std::shared_ptr<::host::ButtonDefinition> definition) override {
+    std::shared_ptr<::host::CommandBarControl> Add(
+        std::int32_t controlType, std::shared_ptr<::host::ButtonDefinition> definition) override {
         auto* button = dynamic_cast<AdaptedButton*>(definition.get());
         if (controlType != ::host::kBarControlButton || !button)
             throw support::Error(support::errors::kTypeMismatch, "Type mismatch: only buttons are placed");
-        return AdaptCommandBarControl(remote_.Shared(), remote_.Call("AddButton", {button->ControlDefinition()}));
+        return AdaptCommandBarControl(remote_.Shared(),
+                                      remote_.Call("AddButton", {button->ControlDefinition()}));
     }
 };
 
@@ -103,7 +106,7 @@ class AdaptedCommandBarControl : public ::host::CommandBarControl, public Adapte
 public:
     AdaptedCommandBarControl(com::ComPtr<IDispatch> o, Context c)
         : Adapted("CommandBarControl", std::move(o), std::move(c)) {}
-    std::int32_t ControlType() const override { return remote_.Long("Type"); }
+    std::int32_t ControlType() const override { return remote_.Long("ControlType"); }
     std::shared_ptr<::host::ButtonDefinition> ControlDefinition() override {
         return AdaptButtonDefinition(remote_.Shared(), remote_.Get("ControlDefinition"));
     }
@@ -111,7 +114,8 @@ public:
 
 class AdaptedCommandManager : public ::host::CommandManager, public Adapted {
 public:
-    AdaptedCommandManager(com::ComPtr<IDispatch> o, Context c) : Adapted("CommandManager", std::move(o), std::move(c)) {}
+    AdaptedCommandManager(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("CommandManager", std::move(o), std::move(c)) {}
     std::shared_ptr<::host::InteractionEvents> CreateInteractionEvents() override {
         return AdaptInteractionEvents(remote_.Shared(), remote_.Call("CreateInteractionEvents"));
     }
@@ -145,7 +149,8 @@ private:
 
 class AdaptedSelectEvents : public ::host::SelectEvents, public Adapted {
 public:
-    AdaptedSelectEvents(com::ComPtr<IDispatch> o, Context c) : Adapted("SelectEvents", std::move(o), std::move(c)) {}
+    AdaptedSelectEvents(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("SelectEvents", std::move(o), std::move(c)) {}
     void AddSelectionFilter(std::int32_t filter) override { remote_.Call("AddSelectionFilter", {filter}); }
     ::host::ObjectList SelectedEntities() const override {
         return AdaptObjects(remote_.Shared(), remote_.Get("SelectedEntities"));
@@ -187,13 +192,15 @@ public:
         : Adapted("UserInputEvents", std::move(o), std::move(c)) {}
     // Both context-menu events, the older releases' and the later one: SelectionDevice,
     // AdditionalInfo, CommandBar.
-    support::Event<std::int32_t, ::host::ObjectPtr, std::shared_ptr<::host::CommandBar>>& OnContextMenu() override {
+    support::Event<std::int32_t, ::host::ObjectPtr, std::shared_ptr<::host::CommandBar>>& OnContextMenu()
+        override {
         if (!advised_)
             advised_.emplace(remote_.Object().Object(), com::kIIDUserInputEventsSink,
                              std::vector<com::Member>{{com::kDispidOnContextMenuOld, L"OnContextMenuOld"},
                                                       {com::kDispidOnContextMenu, L"OnContextMenu"}},
                              [this](DISPID, const InvokeArgs& args) {
-                                 onContextMenu_.Raise(ToLong(args.At(0)), AdaptObject(remote_.Shared(), args.At(1)),
+                                 onContextMenu_.Raise(ToLong(args.At(0)),
+                                                      AdaptObject(remote_.Shared(), args.At(1)),
                                                       AdaptCommandBar(remote_.Shared(), args.At(2)));
                              });
         return onContextMenu_;
@@ -206,7 +213,8 @@ private:
 
 }  // namespace
 
-std::shared_ptr<::host::ButtonDefinition> AdaptButtonHandler(const Context& context, const support::Variant& value) {
+std::shared_ptr<::host::ButtonDefinition> AdaptButtonHandler(const Context& context,
+                                                             const support::Variant& value) {
     return Make<AdaptedButton>(context, value, true);
 }
 

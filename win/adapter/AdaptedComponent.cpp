@@ -94,7 +94,8 @@ public:
 
 class AdaptedMassProperties : public ::host::MassProperties, public Adapted {
 public:
-    AdaptedMassProperties(com::ComPtr<IDispatch> o, Context c) : Adapted("MassProperties", std::move(o), std::move(c)) {}
+    AdaptedMassProperties(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("MassProperties", std::move(o), std::move(c)) {}
     double Mass() const override { return remote_.Real("Mass"); }
     double Volume() const override { return remote_.Real("Volume"); }
 };

@@ -22,7 +22,8 @@ struct TitleBlockDefinitionList : AdaptedCollection<::host::TitleBlockDefinition
         : AdaptedCollection("TitleBlockDefinitions", std::move(o), std::move(c)) {}
 };
 struct TextBoxList : AdaptedCollection<::host::TextBox, AdaptTextBox> {
-    TextBoxList(com::ComPtr<IDispatch> o, Context c) : AdaptedCollection("TextBoxes", std::move(o), std::move(c)) {}
+    TextBoxList(com::ComPtr<IDispatch> o, Context c)
+        : AdaptedCollection("TextBoxes", std::move(o), std::move(c)) {}
 };
 struct DocumentsEnumerator : AdaptedCollection<::host::Document, AdaptDocument> {
     DocumentsEnumerator(com::ComPtr<IDispatch> o, Context c)
@@ -31,7 +32,8 @@ struct DocumentsEnumerator : AdaptedCollection<::host::Document, AdaptDocument> 
 
 class AdaptedDocuments : public ::host::Documents, public Adapted {
 public:
-    AdaptedDocuments(com::ComPtr<IDispatch> o, Context c) : Adapted("Documents", std::move(o), std::move(c)) {}
+    AdaptedDocuments(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("Documents", std::move(o), std::move(c)) {}
     std::int32_t Count() const override { return remote_.Long("Count"); }
     ::host::DocumentPtr Item(std::int32_t index) override {
         return AdaptDocument(remote_.Shared(), remote_.Get("Item", {index}));
@@ -41,7 +43,8 @@ public:
     }
     ::host::DocumentPtr Add(std::int32_t documentType, const std::string& templateFileName,
                             bool createVisible) override {
-        return AdaptDocument(remote_.Shared(), remote_.Call("Add", {documentType, templateFileName, createVisible}));
+        return AdaptDocument(remote_.Shared(),
+                             remote_.Call("Add", {documentType, templateFileName, createVisible}));
     }
 };
 
@@ -129,7 +132,8 @@ public:
 
 class AdaptedDrawingSketch : public ::host::DrawingSketch, public Adapted {
 public:
-    AdaptedDrawingSketch(com::ComPtr<IDispatch> o, Context c) : Adapted("DrawingSketch", std::move(o), std::move(c)) {}
+    AdaptedDrawingSketch(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("DrawingSketch", std::move(o), std::move(c)) {}
     std::shared_ptr<::host::Collection<::host::TextBox>> TextBoxes() override {
         return Make<TextBoxList>(remote_.Shared(), remote_.Get("TextBoxes"));
     }

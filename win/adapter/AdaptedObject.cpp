@@ -39,7 +39,8 @@ support::Variant Adapted::AsArgument() const {
 
 support::Variant HostObjectOf(const std::shared_ptr<const void>& adapted, const Adapted* base) {
     if (!adapted) return support::Variant(std::shared_ptr<support::Object>());
-    if (!base) throw support::Error(support::errors::kTypeMismatch, "Type mismatch: not an object of the host");
+    if (!base)
+        throw support::Error(support::errors::kTypeMismatch, "Type mismatch: not an object of the host");
     return base->AsArgument();
 }
 

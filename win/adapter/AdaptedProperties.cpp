@@ -7,7 +7,8 @@ namespace {
 
 class AdaptedPropertySets : public ::host::PropertySets, public Adapted {
 public:
-    AdaptedPropertySets(com::ComPtr<IDispatch> o, Context c) : Adapted("PropertySets", std::move(o), std::move(c)) {}
+    AdaptedPropertySets(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("PropertySets", std::move(o), std::move(c)) {}
     std::int32_t Count() const override { return remote_.Long("Count"); }
     std::shared_ptr<::host::PropertySet> Item(std::int32_t position) override {
         return AdaptPropertySet(remote_.Shared(), remote_.Get("Item", {position}));
@@ -25,7 +26,8 @@ public:
 
 class AdaptedPropertySet : public ::host::PropertySet, public Adapted {
 public:
-    AdaptedPropertySet(com::ComPtr<IDispatch> o, Context c) : Adapted("PropertySet", std::move(o), std::move(c)) {}
+    AdaptedPropertySet(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("PropertySet", std::move(o), std::move(c)) {}
     std::string Name() const override { return remote_.Text("Name"); }
     std::string DisplayName() const override { return remote_.Text("DisplayName"); }
     std::string InternalName() const override { return remote_.Text("InternalName"); }
@@ -61,7 +63,8 @@ public:
 
 class AdaptedAttributeSets : public ::host::AttributeSets, public Adapted {
 public:
-    AdaptedAttributeSets(com::ComPtr<IDispatch> o, Context c) : Adapted("AttributeSets", std::move(o), std::move(c)) {}
+    AdaptedAttributeSets(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("AttributeSets", std::move(o), std::move(c)) {}
     bool NameIsUsed(const std::string& setName) const override {
         return remote_.Get("NameIsUsed", {setName}).ToBool();
     }
@@ -75,7 +78,8 @@ public:
 
 class AdaptedAttributeSet : public ::host::AttributeSet, public Adapted {
 public:
-    AdaptedAttributeSet(com::ComPtr<IDispatch> o, Context c) : Adapted("AttributeSet", std::move(o), std::move(c)) {}
+    AdaptedAttributeSet(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("AttributeSet", std::move(o), std::move(c)) {}
     std::string Name() const override { return remote_.Text("Name"); }
     bool NameIsUsed(const std::string& attributeName) const override {
         return remote_.Get("NameIsUsed", {attributeName}).ToBool();
@@ -91,7 +95,8 @@ public:
 
 class AdaptedAttribute : public ::host::Attribute, public Adapted {
 public:
-    AdaptedAttribute(com::ComPtr<IDispatch> o, Context c) : Adapted("Attribute", std::move(o), std::move(c)) {}
+    AdaptedAttribute(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("Attribute", std::move(o), std::move(c)) {}
     std::string Name() const override { return remote_.Text("Name"); }
     support::Variant Value() const override { return remote_.Get("Value"); }
     void SetValue(const support::Variant& value) override { remote_.Put("Value", value); }

@@ -17,7 +17,8 @@ DISPID RenderStyleId(std::string_view name) {
 
 class AdaptedMaterials : public ::host::Materials, public Adapted {
 public:
-    AdaptedMaterials(com::ComPtr<IDispatch> o, Context c) : Adapted("Materials", std::move(o), std::move(c)) {}
+    AdaptedMaterials(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("Materials", std::move(o), std::move(c)) {}
     std::int32_t Count() const override { return remote_.Long("Count"); }
     std::shared_ptr<::host::Material> Item(std::int32_t index) override {
         return AdaptMaterial(remote_.Shared(), remote_.Get("Item", {index}));
@@ -63,7 +64,8 @@ public:
 
 class AdaptedRenderStyles : public ::host::RenderStyles, public Adapted {
 public:
-    AdaptedRenderStyles(com::ComPtr<IDispatch> o, Context c) : Adapted("RenderStyles", std::move(o), std::move(c)) {}
+    AdaptedRenderStyles(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("RenderStyles", std::move(o), std::move(c)) {}
     std::int32_t Count() const override { return remote_.Long("Count"); }
     std::shared_ptr<::host::RenderStyle> Item(std::int32_t index) override {
         return AdaptRenderStyle(remote_.Shared(), remote_.Get("Item", {index}));
@@ -78,7 +80,8 @@ public:
 
 class AdaptedRenderStyle : public ::host::RenderStyle, public Adapted {
 public:
-    AdaptedRenderStyle(com::ComPtr<IDispatch> o, Context c) : Adapted("RenderStyle", std::move(o), std::move(c)) {}
+    AdaptedRenderStyle(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("RenderStyle", std::move(o), std::move(c)) {}
     std::string Name() const override { return Read("Name").ToText(); }
     bool InUse() const override { return remote_.Flag("InUse"); }
     std::int32_t StyleLocation() const override { return remote_.Long("StyleLocation"); }
@@ -124,7 +127,8 @@ private:
 
 class AdaptedUnitsOfMeasure : public ::host::UnitsOfMeasure, public Adapted {
 public:
-    AdaptedUnitsOfMeasure(com::ComPtr<IDispatch> o, Context c) : Adapted("UnitsOfMeasure", std::move(o), std::move(c)) {}
+    AdaptedUnitsOfMeasure(com::ComPtr<IDispatch> o, Context c)
+        : Adapted("UnitsOfMeasure", std::move(o), std::move(c)) {}
     std::string GetStringFromValue(double value, std::int32_t unitsType) const override {
         return remote_.Call("GetStringFromValue", {value, unitsType}).ToText();
     }

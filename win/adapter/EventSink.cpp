@@ -15,7 +15,8 @@ support::Variant EventSink::Call(DISPID id, WORD, const com::InvokeArgs& args) {
 namespace {
 com::ComPtr<IConnectionPointContainer> Container(const com::ComPtr<IDispatch>& source) {
     auto container = source.As<IConnectionPointContainer>(IID_IConnectionPointContainer);
-    if (!container) throw support::Error(static_cast<std::int32_t>(E_NOINTERFACE), "The object raises no events");
+    if (!container)
+        throw support::Error(static_cast<std::int32_t>(E_NOINTERFACE), "The object raises no events");
     return container;
 }
 }  // namespace

@@ -1,5 +1,6 @@
 #pragma once
 #include <memory>
+#include <string>
 
 #include "host/Application.h"
 #include "win/com/ComPtr.h"
@@ -11,6 +12,7 @@ namespace win::adapter {
 // host activates the add-in with, adapted to host::AddInSite. Every host/ interface reached
 // from it calls the host by late binding, with the member names and DISPIDs the host
 // documents (docs/host-calls.md), and its events come through connection points.
-std::shared_ptr<::host::AddInSite> AdaptSite(com::ComPtr<IDispatch> site);
+// clientId is the add-in's class identifier in braces, which the later button factory takes.
+std::shared_ptr<::host::AddInSite> AdaptSite(com::ComPtr<IDispatch> site, std::string clientId);
 
 }  // namespace win::adapter

@@ -168,7 +168,8 @@ constexpr HostMember kMembers[] = {
     {"RenderStyle", "SetSpecularColor", "call (0x3006C06)", "Red, Green, Blue", ""},
     {"RenderStyle", "GetEmissiveColor", "call (0x3006C07)", "[out] Red, Green, Blue (Byte)", ""},
     {"RenderStyle", "SetEmissiveColor", "call (0x3006C08)", "Red, Green, Blue", ""},
-    {"UnitsOfMeasure", "GetStringFromValue", "call", "Value, UnitsSpecifier (UnitsTypeEnum or text)", "String"},
+    {"UnitsOfMeasure", "GetStringFromValue", "call", "Value, UnitsSpecifier (UnitsTypeEnum or text)",
+     "String"},
     {"UnitsOfMeasure", "GetValueFromExpression", "call", "Expression, UnitsSpecifier", "Double"},
     {"UnitsOfMeasure", "GetStringFromType", "call", "UnitsType", "String"},
     {"UnitsOfMeasure", "MassUnits", "get/put", "", "UnitsTypeEnum"},
@@ -190,10 +191,14 @@ constexpr HostMember kMembers[] = {
     {"CommandBarControls", "Count", "get", "", "Long"},
     {"CommandBarControls", "Item", "get", "Index", "CommandBarControl"},
     {"CommandBarControls", "AddButton", "call", "ButtonDefinition", "CommandBarControl"},
-    {"CommandBarControl", "Type", "get", "", "BarControlTypeEnum"},
+    {"CommandBarControl", "ControlType", "get", "", "BarControlTypeEnum (name to confirm)"},
     {"CommandBarControl", "ControlDefinition", "get", "", "ButtonDefinition"},
     {"CommandManager", "CreateInteractionEvents", "call", "", "InteractionEvents"},
     {"CommandManager", "UserInputEvents", "get", "", "UserInputEvents"},
+    {"CommandManager", "ControlDefinitions", "get", "", "ControlDefinitions (the later factory's)"},
+    {"ControlDefinitions", "AddButtonDefinition", "call",
+     "DisplayName, InternalName, Classification, ClientId, DescriptionText, ToolTipText, [StandardIcon]",
+     "ButtonDefinition"},
     {"InteractionEvents", "SelectEvents", "get", "", "SelectEvents"},
     {"InteractionEvents", "SelectionActive", "put", "", "Boolean (name to confirm)"},
     {"InteractionEvents", "Start", "call", "", ""},
@@ -205,11 +210,12 @@ constexpr HostMember kMembers[] = {
     {"SelectEvents", "OnSelect (0x03005584)", "event",
      "JustSelectedEntities, SelectionDevice, ModelPosition, ViewPosition, View; sink {2E19A8EE-...}", ""},
     {"SelectEvents", "OnPreSelect (0x03005581)", "event",
-     "PreSelectEntity, [out] DoHighlight, MorePreSelectEntities, SelectionDevice, ModelPosition, ViewPosition, "
+     "PreSelectEntity, [out] DoHighlight, MorePreSelectEntities, SelectionDevice, ModelPosition, "
+     "ViewPosition, "
      "View",
      ""},
-    {"UserInputEvents", "OnContextMenuOld (0x03002204)", "event", "SelectionDevice, AdditionalInfo, CommandBar",
-     ""},
+    {"UserInputEvents", "OnContextMenuOld (0x03002204)", "event",
+     "SelectionDevice, AdditionalInfo, CommandBar", ""},
     {"UserInputEvents", "OnContextMenu (0x03002206)", "event",
      "SelectionDevice, AdditionalInfo, CommandBar; sink {711F30CD-...}", ""},
     {"ObjectsEnumerator", "Count", "get", "", "Long"},
@@ -243,15 +249,19 @@ std::string HostMembersMarkdown() {
         "the list differ; the adapter refuses to call a member the list does not name. The first\n"
         "run in the real host checks these names, argument orders and DISPIDs against its type\n"
         "library; \"to confirm\" marks the names that no source at hand settles.\n\n"
-        "Buttons are made with the site's `CreateButtonDefinition` (releases 7 to 9), which\n"
-        "returns a ButtonDefinitionHandler raising `OnClick`.\n";
+        "Buttons: the adapter calls the site's `CreateButtonDefinition` (releases 7 to 9), which\n"
+        "returns a ButtonDefinitionHandler raising `OnClick`. Only where the host answers 438\n"
+        "(no such member) does it use the later factory, `ControlDefinitions.AddButtonDefinition`,\n"
+        "whose ButtonDefinition raises `OnExecute`. The stand-in's face is of releases 7 to 9: the\n"
+        "transcript tests run the first factory; a unit test runs the second against a later site.\n";
     std::string object;
     for (const HostMember& m : kMembers) {
         if (object != m.object) {
             object = m.object;
             text += "\n## " + object + "\n\n| member | access | arguments | returns |\n|---|---|---|---|\n";
         }
-        text += "| " + std::string(m.member) + " | " + m.access + " | " + m.arguments + " | " + m.returns + " |\n";
+        text += "| " + std::string(m.member) + " | " + m.access + " | " + m.arguments + " | " + m.returns +
+                " |\n";
     }
     return text;
 }

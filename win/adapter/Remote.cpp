@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "support/Error.h"
-#include "win/com/ComObject.h"
 #include "win/adapter/HostMembers.h"
+#include "win/com/ComObject.h"
 
 namespace win::adapter {
 

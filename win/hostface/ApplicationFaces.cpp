@@ -9,8 +9,9 @@ TW_FACE_TABLE(host::AddInSite) {
     static const FaceMember<host::AddInSite> table[] = {
         {L"Application", TW_GET(Face(o.Application())), nullptr, com::kDispidSiteApplication},
         // InternalName, Classification, DisplayName, Description, ToolTipText, [StandardIcon]
-        {L"CreateButtonDefinition", TW_GET(Face(o.CreateButtonDefinition(Text(a, 0), Long(a, 1), Text(a, 2),
-                                                                         Text(a, 3), Text(a, 4), GivenObject(a, 5))))},
+        {L"CreateButtonDefinition",
+         TW_GET(Face(o.CreateButtonDefinition(Text(a, 0), Long(a, 1), Text(a, 2), Text(a, 3), Text(a, 4),
+                                              GivenObject(a, 5))))},
     };
     return table;
 }
@@ -68,7 +69,8 @@ TW_FACE_TABLE(host::TransactionManager) {
 }
 
 TW_FACE_TABLE(host::Transaction) {
-    static const FaceMember<host::Transaction> table[] = {{L"End", TW_DO(o.End())}, {L"Abort", TW_DO(o.Abort())}};
+    static const FaceMember<host::Transaction> table[] = {{L"End", TW_DO(o.End())},
+                                                          {L"Abort", TW_DO(o.Abort())}};
     return table;
 }
 
@@ -89,7 +91,8 @@ TW_FACE_TABLE(host::FileLocations) {
 }
 
 TW_FACE_TABLE(FileOptionsView) {
-    static const FaceMember<FileOptionsView> table[] = {{L"TemplatesPath", TW_GET(o.locations->TemplatesPath())}};
+    static const FaceMember<FileOptionsView> table[] = {
+        {L"TemplatesPath", TW_GET(o.locations->TemplatesPath())}};
     return table;
 }
 

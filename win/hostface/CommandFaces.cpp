@@ -25,18 +25,22 @@ std::shared_ptr<host::ButtonDefinition> ButtonOf(const InvokeArgs& args, std::si
     return definition->button;
 }
 
-template <class T>
-using EventFacePtr = com::ComPtr<EventFace<T>>;
-
-template <class T>
-EventFacePtr<T> MakeEventFace(std::shared_ptr<T> target, std::initializer_list<IID> outgoing) {
-    return EventFacePtr<T>::Adopt(new EventFace<T>(std::move(target), outgoing));
+// The face of an object that raises events on one outgoing interface: wire subscribes the
+// face to the object's own events. The face, once made, is the object's one face.
+template <class T, class Wire>
+support::Variant EventFaceOf(std::shared_ptr<T> target, const IID& outgoing, Wire wire) {
+    if (!target) return Nothing();
+    if (auto existing = FaceObject<T>::Existing(target)) return AsValue(existing);
+    auto face = com::ComPtr<EventFace<T>>::Adopt(new EventFace<T>(target, {outgoing}));
+    wire(*target, *face.Get());
+    return AsValue(face);
 }
 }  // namespace
 
 TW_FACE_TABLE(ButtonHandlerView) {
     static const FaceMember<ButtonHandlerView> table[] = {
-        {L"ControlDefinition", TW_GET(Face(std::make_shared<ControlDefinitionView>(ControlDefinitionView{o.button})))},
+        {L"ControlDefinition",
+         TW_GET(Face(std::make_shared<ControlDefinitionView>(ControlDefinitionView{o.button})))},
     };
     return table;
 }
@@ -53,25 +57,26 @@ TW_FACE_TABLE(ControlDefinitionView) {
 
 support::Variant Face(std::shared_ptr<host::ButtonDefinition> target) {
     if (!target) return Nothing();
-    auto face = MakeEventFace(std::make_shared<ButtonHandlerView>(ButtonHandlerView{target}),
-                              {kIIDButtonDefinitionHandlerEvents});
-    auto* raw = face.Get();
-    face->Keep(target->OnExecute().Subscribe([raw] { raw->Point(0).Raise(com::kDispidOnClick, {}); }));
-    return AsValue(face);
+    return EventFaceOf(std::make_shared<ButtonHandlerView>(ButtonHandlerView{target}),
+                       kIIDButtonDefinitionHandlerEvents,
+                       [](ButtonHandlerView& handler, EventFace<ButtonHandlerView>& face) {
+                           face.Keep(handler.button->OnExecute().Subscribe(
+                               [&face] { face.Point(0).Raise(com::kDispidOnClick, {}); }));
+                       });
 }
 
 support::Variant Face(std::shared_ptr<ControlDefinitionView> target) {
-    if (!target) return Nothing();
-    auto face = MakeEventFace(target, {com::kIIDButtonDefinitionSink});
-    auto* raw = face.Get();
     // Context: a NameValueMap in the host; the stand-in has no context to give.
-    face->Keep(target->button->OnExecute().Subscribe(
-        [raw] { raw->Point(0).Raise(com::kDispidOnExecute, {Nothing()}); }));
-    return AsValue(face);
+    return EventFaceOf(target, com::kIIDButtonDefinitionSink,
+                       [](ControlDefinitionView& definition, EventFace<ControlDefinitionView>& face) {
+                           face.Keep(definition.button->OnExecute().Subscribe(
+                               [&face] { face.Point(0).Raise(com::kDispidOnExecute, {Nothing()}); }));
+                       });
 }
 
 TW_FACE_TABLE(host::UserInterfaceManager) {
-    static const FaceMember<host::UserInterfaceManager> table[] = {{L"CommandBars", TW_GET(Face(o.CommandBars()))}};
+    static const FaceMember<host::UserInterfaceManager> table[] = {
+        {L"CommandBars", TW_GET(Face(o.CommandBars()))}};
     return table;
 }
 
@@ -104,9 +109,9 @@ TW_FACE_TABLE(host::CommandBarControls) {
 
 TW_FACE_TABLE(host::CommandBarControl) {
     static const FaceMember<host::CommandBarControl> table[] = {
-        {L"Type", TW_GET(o.ControlType())},
-        {L"ControlDefinition", TW_GET(Face(std::make_shared<ControlDefinitionView>(
-                                   ControlDefinitionView{o.ControlDefinition()})))},
+        {L"ControlType", TW_GET(o.ControlType())},
+        {L"ControlDefinition",
+         TW_GET(Face(std::make_shared<ControlDefinitionView>(ControlDefinitionView{o.ControlDefinition()})))},
     };
     return table;
 }
@@ -144,43 +149,42 @@ TW_FACE_TABLE(host::UserInputEvents) {
 }
 
 support::Variant Face(std::shared_ptr<host::InteractionEvents> target) {
-    if (!target) return Nothing();
-    if (auto existing = FaceObject<host::InteractionEvents>::Existing(target)) return AsValue(existing);
-    auto face = MakeEventFace(target, {com::kIIDInteractionEventsSink});
-    auto* raw = face.Get();
-    face->Keep(target->OnTerminate().Subscribe([raw] { raw->Point(0).Raise(com::kDispidOnTerminate, {}); }));
-    return AsValue(face);
+    return EventFaceOf(target, com::kIIDInteractionEventsSink,
+                       [](host::InteractionEvents& events, EventFace<host::InteractionEvents>& face) {
+                           face.Keep(events.OnTerminate().Subscribe(
+                               [&face] { face.Point(0).Raise(com::kDispidOnTerminate, {}); }));
+                       });
 }
 
+// The positions and the view of a selection are the host's geometry, which the stand-in
+// does not model: they arrive as Nothing.
 support::Variant Face(std::shared_ptr<host::SelectEvents> target) {
-    if (!target) return Nothing();
-    if (auto existing = FaceObject<host::SelectEvents>::Existing(target)) return AsValue(existing);
-    auto face = MakeEventFace(target, {com::kIIDSelectEventsSink});
-    auto* raw = face.Get();
-    // The positions and the view are the host's geometry, which the stand-in does not model.
-    face->Keep(target->OnSelect().Subscribe([raw](const host::ObjectList& selected) {
-        raw->Point(0).Raise(com::kDispidOnSelect, {Face(std::make_shared<host::ObjectList>(selected)),
-                                                   kGraphicsWindowSelection, Nothing(), Nothing(), Nothing()});
-    }));
-    face->Keep(target->OnPreSelect().Subscribe([raw](host::ObjectPtr entity) {
-        VARIANT_BOOL highlight = VARIANT_TRUE;  // [out] DoHighlight: the stand-in draws nothing
-        raw->Point(0).Raise(com::kDispidOnPreSelect,
-                            {Face(entity), com::Argument::Out(&highlight), Nothing(), kGraphicsWindowSelection,
-                             Nothing(), Nothing(), Nothing()});
-    }));
-    return AsValue(face);
+    return EventFaceOf(
+        target, com::kIIDSelectEventsSink,
+        [](host::SelectEvents& events, EventFace<host::SelectEvents>& face) {
+            face.Keep(events.OnSelect().Subscribe([&face](const host::ObjectList& selected) {
+                face.Point(0).Raise(com::kDispidOnSelect,
+                                    {Face(std::make_shared<host::ObjectList>(selected)),
+                                     kGraphicsWindowSelection, Nothing(), Nothing(), Nothing()});
+            }));
+            face.Keep(events.OnPreSelect().Subscribe([&face](host::ObjectPtr entity) {
+                VARIANT_BOOL highlight = VARIANT_TRUE;  // [out] DoHighlight: the stand-in draws nothing
+                face.Point(0).Raise(com::kDispidOnPreSelect,
+                                    {Face(entity), com::Argument::Out(&highlight), Nothing(),
+                                     kGraphicsWindowSelection, Nothing(), Nothing(), Nothing()});
+            }));
+        });
 }
 
 support::Variant Face(std::shared_ptr<host::UserInputEvents> target) {
-    if (!target) return Nothing();
-    if (auto existing = FaceObject<host::UserInputEvents>::Existing(target)) return AsValue(existing);
-    auto face = MakeEventFace(target, {com::kIIDUserInputEventsSink});
-    auto* raw = face.Get();
-    face->Keep(target->OnContextMenu().Subscribe(
-        [raw](std::int32_t device, host::ObjectPtr info, std::shared_ptr<host::CommandBar> bar) {
-            raw->Point(0).Raise(com::kDispidOnContextMenu, {device, Face(info), Face(bar)});
-        }));
-    return AsValue(face);
+    return EventFaceOf(
+        target, com::kIIDUserInputEventsSink,
+        [](host::UserInputEvents& events, EventFace<host::UserInputEvents>& face) {
+            face.Keep(events.OnContextMenu().Subscribe(
+                [&face](std::int32_t device, host::ObjectPtr info, std::shared_ptr<host::CommandBar> bar) {
+                    face.Point(0).Raise(com::kDispidOnContextMenu, {device, Face(info), Face(bar)});
+                }));
+        });
 }
 
 TW_FACE(host::UserInterfaceManager)

@@ -66,7 +66,8 @@ HRESULT ConnectionPoint::EnumConnections(IEnumConnections** out) {
     return E_NOTIMPL;
 }
 
-ConnectionPointEnum::ConnectionPointEnum(std::vector<com::ComPtr<IConnectionPoint>> points, std::size_t position)
+ConnectionPointEnum::ConnectionPointEnum(std::vector<com::ComPtr<IConnectionPoint>> points,
+                                         std::size_t position)
     : points_(std::move(points)), position_(position) {
     com::detail::CountObject(+1);
 }
@@ -75,8 +76,8 @@ ConnectionPointEnum::~ConnectionPointEnum() {
     com::detail::CountObject(-1);
 }
 
-com::ComPtr<IEnumConnectionPoints> ConnectionPointEnum::Make(std::vector<com::ComPtr<IConnectionPoint>> points,
-                                                             std::size_t position) {
+com::ComPtr<IEnumConnectionPoints> ConnectionPointEnum::Make(
+    std::vector<com::ComPtr<IConnectionPoint>> points, std::size_t position) {
     return com::ComPtr<IEnumConnectionPoints>::Adopt(new ConnectionPointEnum(std::move(points), position));
 }
 
@@ -98,7 +99,8 @@ ULONG ConnectionPointEnum::Release() {
 HRESULT ConnectionPointEnum::Next(ULONG count, IConnectionPoint** out, ULONG* fetched) {
     if (!out) return E_POINTER;
     ULONG given = 0;
-    while (given < count && position_ < points_.size()) out[given++] = com::ComPtr(points_[position_++]).Detach();
+    while (given < count && position_ < points_.size())
+        out[given++] = com::ComPtr(points_[position_++]).Detach();
     if (fetched) *fetched = given;
     return given == count ? S_OK : S_FALSE;
 }

@@ -10,7 +10,8 @@ TW_FACE_TABLE(host::Documents) {
         // FullDocumentName, [OpenVisible = True]
         {L"Open", TW_GET(Face(o.Open(Text(a, 0), Given(a, 1) ? Flag(a, 1) : true)))},
         // DocumentType, [TemplateFileName], [CreateVisible = True]
-        {L"Add", TW_GET(Face(o.Add(Long(a, 0), Given(a, 1) ? Text(a, 1) : "", Given(a, 2) ? Flag(a, 2) : true)))},
+        {L"Add",
+         TW_GET(Face(o.Add(Long(a, 0), Given(a, 1) ? Text(a, 1) : "", Given(a, 2) ? Flag(a, 2) : true)))},
     };
     return table;
 }
@@ -28,7 +29,8 @@ TW_FACE_TABLE(host::Document) {
         {L"IsModifiable", TW_GET(o.IsModifiable())},
         {L"ReservedForWrite", TW_GET(o.ReservedForWrite())},
         {L"ReservedForWriteName", TW_GET(o.ReservedForWriteName())},
-        {L"DisabledCommandTypes", TW_GET(o.DisabledCommandTypes()), TW_PUT(o.SetDisabledCommandTypes(Long(v)))},
+        {L"DisabledCommandTypes", TW_GET(o.DisabledCommandTypes()),
+         TW_PUT(o.SetDisabledCommandTypes(Long(v)))},
         {L"SoftwareVersionSaved",
          TW_GET(Face(std::make_shared<SoftwareVersionView>(SoftwareVersionView{o.SoftwareVersionSaved()})))},
         {L"NeedsMigrating", TW_GET(o.NeedsMigrating())},

@@ -14,7 +14,8 @@ namespace win::hostface {
 template <class T>
 class EventFace : public FaceObject<T>, public IConnectionPointContainer {
 public:
-    EventFace(std::shared_ptr<T> target, std::initializer_list<IID> outgoing) : FaceObject<T>(std::move(target)) {
+    EventFace(std::shared_ptr<T> target, std::initializer_list<IID> outgoing)
+        : FaceObject<T>(std::move(target)) {
         for (const IID& iid : outgoing) points_.push_back(std::make_unique<ConnectionPoint>(*this, iid));
     }
     ConnectionPoint& Point(std::size_t index) { return *points_.at(index); }

@@ -33,7 +33,9 @@ struct FaceMember {
 template <class T>
 class FaceObject : public com::DispatchObject<> {
 public:
-    explicit FaceObject(std::shared_ptr<T> target) : target_(std::move(target)) { Live()[target_.get()] = this; }
+    explicit FaceObject(std::shared_ptr<T> target) : target_(std::move(target)) {
+        Live()[target_.get()] = this;
+    }
     ~FaceObject() override { Live().erase(target_.get()); }
     const std::shared_ptr<T>& Target() const { return target_; }
 

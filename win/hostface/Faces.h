@@ -119,6 +119,11 @@ inline bool Given(const InvokeArgs& args, std::size_t i) {
     return i < args.Count() && !args.At(i).IsEmpty();
 }
 
+// An Item argument: a name (text) rather than a position from 1.
+inline bool ByName(const InvokeArgs& args) {
+    return args.At(0).Type() == support::VariantType::String;
+}
+
 // An object argument that is not Nothing, such as a picture.
 inline bool GivenObject(const InvokeArgs& args, std::size_t i) {
     return Given(args, i) && args.At(i).Type() == support::VariantType::Object && args.At(i).ToObject();
@@ -142,18 +147,23 @@ inline support::Variant AsValue(com::ComPtr<IDispatch> face) {
 
 // Shorthand of the member tables: o is the object shown, a the call's arguments, v the
 // value assigned.
-#define TW_GET(expr) [](auto& o, const ::win::hostface::InvokeArgs& a) -> ::support::Variant { \
-    (void)o;                                                                                   \
-    (void)a;                                                                                   \
-    return expr;                                                                               \
-}
-#define TW_DO(statement) [](auto& o, const ::win::hostface::InvokeArgs& a) -> ::support::Variant { \
-    (void)a;                                                                                       \
-    statement;                                                                                     \
-    return {};                                                                                     \
-}
-#define TW_PUT(statement) \
-    [](auto& o, const ::support::Variant& v, const ::win::hostface::InvokeArgs& a) { (void)a; statement; }
+#define TW_GET(expr)                                                          \
+    [](auto& o, const ::win::hostface::InvokeArgs& a) -> ::support::Variant { \
+        (void)o;                                                              \
+        (void)a;                                                              \
+        return expr;                                                          \
+    }
+#define TW_DO(statement)                                                      \
+    [](auto& o, const ::win::hostface::InvokeArgs& a) -> ::support::Variant { \
+        (void)a;                                                              \
+        statement;                                                            \
+        return {};                                                            \
+    }
+#define TW_PUT(statement)                                                            \
+    [](auto& o, const ::support::Variant& v, const ::win::hostface::InvokeArgs& a) { \
+        (void)a;                                                                     \
+        statement;                                                                   \
+    }
 
 // Each kind's member table is defined with its face; the kinds other files take as
 // arguments are declared here.
@@ -167,7 +177,7 @@ TW_FACE_TABLE(host::Matrix);
 TW_FACE_TABLE(win::hostface::ControlDefinitionView);
 
 // Defines the face of a kind of object with its member table.
-#define TW_FACE(Type)                                                \
-    support::Variant Face(std::shared_ptr<Type> target) {            \
-        return ::win::hostface::MakeFace(std::move(target));         \
+#define TW_FACE(Type)                                        \
+    support::Variant Face(std::shared_ptr<Type> target) {    \
+        return ::win::hostface::MakeFace(std::move(target)); \
     }

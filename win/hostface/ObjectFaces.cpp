@@ -19,8 +19,10 @@ TW_FACE_TABLE(host::ObjectList) {
 
 support::Variant Face(host::ObjectPtr target) {
     if (auto document = std::dynamic_pointer_cast<host::Document>(target)) return Face(document);
-    if (auto occurrence = std::dynamic_pointer_cast<host::ComponentOccurrence>(target)) return Face(occurrence);
-    if (auto definition = std::dynamic_pointer_cast<host::ComponentDefinition>(target)) return Face(definition);
+    if (auto occurrence = std::dynamic_pointer_cast<host::ComponentOccurrence>(target))
+        return Face(occurrence);
+    if (auto definition = std::dynamic_pointer_cast<host::ComponentDefinition>(target))
+        return Face(definition);
     if (auto bar = std::dynamic_pointer_cast<host::CommandBar>(target)) return Face(bar);
     if (auto application = std::dynamic_pointer_cast<host::Application>(target)) return Face(application);
     return MakeFace(std::move(target));

@@ -3,19 +3,12 @@
 
 namespace win::hostface {
 
-namespace {
-// Item takes a position from 1 or a name (of a set: its name or its format identifier).
-bool ByPosition(const InvokeArgs& args) {
-    auto type = args.At(0).Type();
-    return type == support::VariantType::Integer || type == support::VariantType::Long ||
-           type == support::VariantType::Double;
-}
-}  // namespace
+namespace {}  // namespace
 
 TW_FACE_TABLE(host::PropertySets) {
     static const FaceMember<host::PropertySets> table[] = {
         {L"Count", TW_GET(o.Count())},
-        {L"Item", TW_GET(Face(ByPosition(a) ? o.Item(Long(a, 0)) : o.Item(Text(a, 0))))},
+        {L"Item", TW_GET(Face(ByName(a) ? o.Item(Text(a, 0)) : o.Item(Long(a, 0))))},
         {L"Add", TW_GET(Face(o.Add(Text(a, 0), Given(a, 1) ? Text(a, 1) : "")))},  // Name, [InternalName]
         {L"PropertySetExists", TW_GET(o.PropertySetExists(Text(a, 0)))},
     };
@@ -28,7 +21,7 @@ TW_FACE_TABLE(host::PropertySet) {
         {L"DisplayName", TW_GET(o.DisplayName())},
         {L"InternalName", TW_GET(o.InternalName())},
         {L"Count", TW_GET(o.Count())},
-        {L"Item", TW_GET(Face(ByPosition(a) ? o.Item(Long(a, 0)) : o.Item(Text(a, 0))))},
+        {L"Item", TW_GET(Face(ByName(a) ? o.Item(Text(a, 0)) : o.Item(Long(a, 0))))},
         {L"ItemByPropId", TW_GET(Face(o.ItemByPropId(Long(a, 0))))},
         // PropValue, [Name], [PropId]
         {L"Add", TW_GET(Face(o.Add(a.At(0), Given(a, 1) ? Text(a, 1) : "", Given(a, 2) ? Long(a, 2) : 0)))},
@@ -39,10 +32,8 @@ TW_FACE_TABLE(host::PropertySet) {
 
 TW_FACE_TABLE(host::Property) {
     static const FaceMember<host::Property> table[] = {
-        {L"Name", TW_GET(o.Name())},
-        {L"DisplayName", TW_GET(o.DisplayName())},
-        {L"PropId", TW_GET(o.PropId())},
-        {L"Value", TW_GET(o.Value()), TW_PUT(o.SetValue(v))},
+        {L"Name", TW_GET(o.Name())},     {L"DisplayName", TW_GET(o.DisplayName())},
+        {L"PropId", TW_GET(o.PropId())}, {L"Value", TW_GET(o.Value()), TW_PUT(o.SetValue(v))},
         {L"Delete", TW_DO(o.Delete())},
     };
     return table;

@@ -97,6 +97,39 @@ TEST(VariantConversion, OnlyComObjectsCrossAndKeepTheirIdentity) {
     EXPECT_EQ(LiveObjectCount(), 0) << "a conversion kept a reference";
 }
 
+// A SAFEARRAY of objects: each element keeps its identity and Nothing stays Nothing, and
+// no element keeps a reference once the values are gone.
+TEST(VariantConversion, ArraysOfObjectsKeepEachObjectAndNothing) {
+    struct Empty : DispatchObject<> {
+        std::span<const Member> Members() const override { return {}; }
+        Variant Call(DISPID, WORD, const InvokeArgs&) override { return {}; }
+        bool Answers(REFIID) const override { return false; }
+    };
+    {
+        ComPtr<Empty> first = DispatchObject<>::Make<Empty>(), second = DispatchObject<>::Make<Empty>();
+        auto wrap = [](IDispatch* object) { return Variant(std::make_shared<ComObject>(ComPtr<IDispatch>(object))); };
+        for (VARTYPE type : {VARTYPE(VT_DISPATCH), VARTYPE(VT_VARIANT)}) {
+            auto objects = std::make_shared<Array>(
+                type, 1, std::vector<Variant>{wrap(first.Get()), Variant(std::shared_ptr<support::Object>()),
+                                              wrap(second.Get())});
+            ComVariant com{Variant(objects)};
+            EXPECT_EQ(V_VT(&com.Get()), VT_ARRAY | type);
+            Variant back = FromVariant(com.Get());
+            const Array* array = ArrayIn(back);
+            ASSERT_NE(array, nullptr);
+            ASSERT_EQ(array->items.size(), 3u);
+            auto dispatchAt = [&](std::size_t i) {
+                auto* object = dynamic_cast<const ComObject*>(array->items[i].ToObject().get());
+                return object ? object->Dispatch().Get() : nullptr;
+            };
+            EXPECT_EQ(dispatchAt(0), static_cast<IDispatch*>(first.Get()));
+            EXPECT_EQ(array->items[1].ToObject(), nullptr);
+            EXPECT_EQ(dispatchAt(2), static_cast<IDispatch*>(second.Get()));
+        }
+    }
+    EXPECT_EQ(LiveObjectCount(), 0) << "an array kept a reference";
+}
+
 TEST(VariantConversion, OneDimensionalArraysKeepTypeBoundsAndItems) {
     auto doubles = std::make_shared<Array>(VT_R8, 1, std::vector<Variant>{1.5, std::int32_t(2)});
     ComVariant com{Variant(doubles)};

@@ -2,17 +2,21 @@
 // CLSID through the registry, and activated with a site. TARNWELL_DLL names the DLL.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <optional>
 #include <string>
 
+#include "simhost/SimHost.h"
 #include "support/Utf16.h"
 #include "win/com/ComObject.h"
 #include "win/com/Dispatch.h"
 #include "win/com/DispatchObject.h"
+#include "win/hostface/HostFace.h"
 #include "win/server/AddInClsid.h"
 #include "win/server/HostInterfaces.h"
+#include "win/tests/DialogDriver.h"
 
 namespace win::server {
 namespace {
@@ -153,6 +157,44 @@ TEST_F(RegisteredDll, TheHostCreatesTheServerByItsClsidAndActivatesIt) {
         server.Reset();
         dispinterface.Reset();
         EXPECT_EQ(canUnloadNow(), S_OK) << "the server was released, and with it the application";
+    }
+    CoUninitialize();
+}
+
+// The DLL's add-in in a host: activated with the stand-in's site through COM, it defines its
+// buttons through the site's factory and places them on the host's bars by name; a click
+// reaches it and it answers on the desktop. Deactivation leaves the placed buttons.
+TEST_F(RegisteredDll, TheDllsAddInPlacesItsButtonsInTheHost) {
+    ASSERT_EQ(CoInitialize(nullptr), S_OK);
+    {
+        simhost::SimHost host;
+        com::ComPtr<IRxApplicationAddInServer> server;
+        ASSERT_EQ(CoCreateInstance(kAddInClsid, nullptr, CLSCTX_INPROC_SERVER, kIIDIRxApplicationAddInServer,
+                                   reinterpret_cast<void**>(server.Receive())),
+                  S_OK);
+        com::ComPtr<IDispatch> site = hostface::SiteFace(host.Site());
+        EXPECT_EQ(server->Activate(site.Get(), VARIANT_TRUE), S_OK);
+        const std::string bars = host.DescribeBars();
+        for (const char* placed :
+             {"DLxDrawingAnnotationPanelCmdBar: DLxGeneralDimensionCmd, DLxBalloonCmd, "
+              "DLxTextCmd, TarnwellCmd3\n",
+              "AMxAssemblyPanelCmdBar: AMxPlaceComponentCmd, AMxCreateComponentCmd, "
+              "AMxReplaceComponentCmd, TarnwellCmd1\n",
+              "MBxSheetMetalFeatureCmdBar: MBxFaceCmd, MBxFlangeCmd, TarnwellCmd2\n", "Tarnwell:\n"})
+            EXPECT_NE(bars.find(placed), std::string::npos) << placed << " in\n" << bars;
+        // The main command with no document open: the add-in's message, in a real message box.
+        std::vector<std::wstring> shown;
+        tests::DialogDriver person(tests::WindowClass{L"#32770"}, [&](HWND box) {
+            shown = tests::ChildTexts(box, L"Static");
+            tests::Press(box, IDOK);
+        });
+        host.ClickButton("TarnwellCmd1");
+        EXPECT_TRUE(person.Acted());
+        EXPECT_NE(std::find(shown.begin(), shown.end(), L"An assembly document must be active."),
+                  shown.end());
+        EXPECT_EQ(server->Deactivate(), S_OK);
+        EXPECT_EQ(host.DescribeBars(), bars);
+        server.Reset();
     }
     CoUninitialize();
 }

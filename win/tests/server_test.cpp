@@ -109,7 +109,7 @@ TEST_F(AddInServerTest, TheAddInsErrorsReachTheHostWithNumberAndText) {
         FAIL() << "no error";
     } catch (const support::Error& e) {
         EXPECT_EQ(e.Number(), support::errors::kUnexpected);
-        EXPECT_EQ(e.Description(), "The icon was refused (Activate)");
+        EXPECT_EQ(e.Description(), "The icon was refused");
     }
     EXPECT_EQ(test_support::ErrorNumber([&] { com::Dispatch(server).Call("Activate", {siteObject}); }), 450);
 }
