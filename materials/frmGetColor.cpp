@@ -31,6 +31,21 @@ frmGetColor::frmGetColor(addin::AddinState& state)
     TW_ON(CommandButton2, Click);
 }
 
+// Where each control sits on the dialog, in twips.
+constexpr ui::Placement kLayout[] = {
+    {"Text1", 120, 120, 4800, 315},
+    {"cmdBrowse", 5040, 90, 480, 375},
+    {"cmdImportMaterials", 5640, 90, 1560, 375},
+    {"Label1", 120, 600, 2400, 255},
+    {"lstImport", 120, 900, 3480, 2880},
+    {"Command1", 120, 3900, 3480, 375},
+    {"ListBox1", 3720, 900, 3480, 2880},
+    {"cmdPurgeColor", 3720, 3900, 3480, 375},
+    {"CommandButton1", 120, 4380, 1320, 375},
+    {"CommandButton2", 5880, 4380, 1320, 375},
+    {"Status", 120, 4860, 7080, 255},
+};
+
 void frmGetColor::Build() {
     Add("Text1", ui::ControlKind::TextBox);
     Add("cmdBrowse", ui::ControlKind::Button).Picture = "folder";
@@ -43,6 +58,7 @@ void frmGetColor::Build() {
     Add("CommandButton1", ui::ControlKind::Button, "Apply");
     Add("CommandButton2", ui::ControlKind::Button, "Done");
     Add("Status", ui::ControlKind::Label, "Status");
+    Arrange(7480, 5700, kLayout);
 }
 
 void frmGetColor::Form_Load() {

@@ -64,6 +64,54 @@ frmGetMaterial::frmGetMaterial(addin::AddinState& state)
     TW_ON(txtModulus, LostFocus);
 }
 
+// Where each control sits on the dialog, in twips.
+constexpr ui::Placement kLayout[] = {
+    {"Label3", 120, 120, 2400, 255},
+    {"Text1", 120, 420, 5160, 315},
+    {"cmdBrowse", 5400, 390, 480, 375},
+    {"cmdImportMaterials", 120, 840, 1800, 375},
+    {"Frame4", 120, 1320, 2880, 3480},
+    {"lstImport", 240, 1560, 2640, 2640},
+    {"Command1", 240, 4320, 2640, 375},
+    {"Frame3", 3120, 1320, 2880, 3480},
+    {"Label2", 3240, 1560, 2640, 255},
+    {"ListBox1", 3240, 1860, 2640, 2340},
+    {"cmdPurgeMat", 3240, 4320, 2640, 375},
+    {"CommandButton1", 120, 4920, 1320, 375},
+    {"CommandButton2", 1560, 4920, 1320, 375},
+    {"Picture2", 3120, 4920, 480, 375},
+    {"Picture3", 3720, 4920, 480, 375},
+    {"cmdExpandDialog", 5520, 4920, 480, 375},
+    {"Status", 120, 5400, 5880, 255},
+    {"Frame1", 6240, 120, 4440, 5535},
+    {"Label1", 6360, 390, 2580, 255},
+    {"txtMaterialName", 9000, 360, 1560, 315},
+    {"Label4", 6360, 780, 2580, 255},
+    {"txtDensity", 9000, 750, 1560, 315},
+    {"Label5", 6360, 1170, 2580, 255},
+    {"txtLinear", 9000, 1140, 1560, 315},
+    {"Label6", 6360, 1560, 2580, 255},
+    {"txtPoissons", 9000, 1530, 1560, 315},
+    {"Label7", 6360, 1950, 2580, 255},
+    {"cboRenderStyle", 9000, 1920, 1560, 315},
+    {"Label8", 6360, 2340, 2580, 255},
+    {"txtSpecificHeat", 9000, 2310, 1560, 315},
+    {"Label9", 6360, 2730, 2580, 255},
+    {"txtThermal", 9000, 2700, 1560, 315},
+    {"Label10", 6360, 3120, 2580, 255},
+    {"txtTensile", 9000, 3090, 1560, 315},
+    {"Label11", 6360, 3510, 2580, 255},
+    {"txtYeild", 9000, 3480, 1560, 315},
+    {"Label12", 6360, 3900, 2580, 255},
+    {"txtModulus", 9000, 3870, 1560, 315},
+    {"Label13", 6360, 4260, 1800, 255},
+    {"Frame2", 6360, 4560, 2520, 960},
+    {"optTarget", 6480, 4800, 2280, 255},
+    {"optTargetTemplate", 6480, 5130, 2280, 255},
+    {"cmdSaveMaterial", 9000, 4620, 1560, 375},
+    {"cmdInternet", 9000, 5100, 1560, 375},
+};
+
 void frmGetMaterial::Build() {
     Add("Label3", ui::ControlKind::Label, "Source Template");
     Add("Text1", ui::ControlKind::TextBox);
@@ -114,6 +162,7 @@ void frmGetMaterial::Build() {
     Add("Picture3", ui::ControlKind::Picture).Visible = false;
     (*this)["Picture2"].Picture = "collapsed";
     (*this)["Picture3"].Picture = "expanded";
+    Arrange(kExpandedWidth, 6240, kLayout);
 }
 
 void frmGetMaterial::Form_Load() {

@@ -31,6 +31,27 @@ frmOverrideWeight::frmOverrideWeight(addin::AddinState& state)
     TW_ON(Command2, Click);
 }
 
+// Where each control sits on the dialog, in twips.
+constexpr ui::Placement kLayout[] = {
+    {"Label7", 120, 150, 1800, 255},
+    {"tbxMaterial", 2040, 120, 2880, 315},
+    {"Label4", 120, 540, 1800, 255},
+    {"cboMassUnits", 2040, 510, 2880, 315},
+    {"Label3", 120, 930, 1800, 255},
+    {"tbxUOWeight", 2040, 900, 2880, 315},
+    {"Label1", 120, 1320, 1800, 255},
+    {"tbxCurrentWeight", 2040, 1290, 2880, 315},
+    {"Label2", 120, 1710, 1800, 255},
+    {"tbxVolume", 2040, 1680, 2880, 315},
+    {"Frame1", 120, 2100, 4800, 1200},
+    {"Label5", 240, 2400, 1680, 255},
+    {"tbxTargetWeight", 2040, 2370, 2760, 315},
+    {"Label6", 240, 2790, 1680, 255},
+    {"tbxNewDensity", 2040, 2760, 2760, 315},
+    {"Command1", 120, 3420, 1320, 375},
+    {"Command2", 3600, 3420, 1320, 375},
+};
+
 void frmOverrideWeight::Build() {
     Add("Label7", ui::ControlKind::Label, "Material");
     Add("tbxMaterial", ui::ControlKind::TextBox);
@@ -49,6 +70,7 @@ void frmOverrideWeight::Build() {
     Add("tbxNewDensity", ui::ControlKind::TextBox);
     Add("Command1", ui::ControlKind::Button, "Apply");
     Add("Command2", ui::ControlKind::Button, "Done");
+    Arrange(5200, 4380, kLayout);
 }
 
 void frmOverrideWeight::Form_Load() {

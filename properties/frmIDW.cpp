@@ -40,6 +40,21 @@ frmIDW::frmIDW(addin::AddinState& state) : ui::Form(state.platform, "frmIDW", "I
     TW_ON_MENU(mnuExplore);
 }
 
+// Where each control sits on the dialog, in twips.
+constexpr ui::Placement kLayout[] = {
+    {"cmdGetCustomProperties", 120, 120, 2160, 375},
+    {"cmdEmatrix", 2400, 120, 2160, 375},
+    {"cmdLinkModels", 4680, 120, 3240, 375},
+    {"Frame2", 120, 600, 7800, 3600},
+    {"lstProps", 240, 840, 7560, 3240},
+    {"chkDefer", 120, 4380, 1200, 255},
+    {"Frame1", 1440, 4260, 3000, 720},
+    {"cbxDesignState", 1560, 4500, 2760, 315},
+    {"cmdTBSwap", 4560, 4440, 1680, 375},
+    {"cmdCancel", 6360, 4440, 1560, 375},
+    {"Status", 120, 5100, 7800, 255},
+};
+
 void frmIDW::Build() {
     Add("cmdGetCustomProperties", ui::ControlKind::Button, "Get Custom Prop's");
     Add("cmdEmatrix", ui::ControlKind::Button, "eMatrix Prop");
@@ -54,6 +69,7 @@ void frmIDW::Build() {
     Add("Status", ui::ControlKind::Label, "Status");
     AddMenu("mnuPopUp", "PopUp").Visible = false;  // shown over the list, never in the menu bar
     AddMenu("mnuExplore", "Explore", "mnuPopUp");
+    Arrange(8200, 5940, kLayout);
 }
 
 // Showing the stored state writes nothing back: the design status is shown without its

@@ -57,6 +57,25 @@ frmUpdateMatrix::frmUpdateMatrix(addin::AddinState& state)
     TW_ON(CancelButton, Click);
 }
 
+// Where each control sits on the dialog, in twips.
+constexpr ui::Placement kLayout[] = {
+    {"cboLibrary", 120, 120, 3000, 315},
+    {"Label1", 120, 540, 2640, 255},
+    {"txtUniqueFile", 2880, 510, 3720, 315},
+    {"lblRevision", 120, 930, 2640, 255},
+    {"txtRevision", 2880, 900, 1440, 315},
+    {"lblPartNumber", 120, 1320, 2640, 255},
+    {"txtPartNumber", 2880, 1290, 3720, 315},
+    {"lblCommodityCode", 120, 1710, 2640, 255},
+    {"txtCommCode", 2880, 1680, 3720, 315},
+    {"lblSelectCommodityCode", 120, 2100, 6480, 255},
+    {"cboComCode", 120, 2400, 6480, 315},
+    {"lblFileDescriptiveText", 120, 2820, 6480, 255},
+    {"txtFileDescriptionText", 120, 3120, 6480, 315},
+    {"OKButton", 3720, 3600, 1440, 375},
+    {"CancelButton", 5280, 3600, 1320, 375},
+};
+
 void frmUpdateMatrix::Build() {
     auto& library = Add("cboLibrary", ui::ControlKind::ComboBox);
     library.Items = {kUnassigned, kCommercial};
@@ -75,6 +94,7 @@ void frmUpdateMatrix::Build() {
     Add("lblCommodityCode", ui::ControlKind::Label, "Commodity Code");
     Add("lblSelectCommodityCode", ui::ControlKind::Label, "Select a commodity code from the list below.");
     Add("lblFileDescriptiveText", ui::ControlKind::Label, "Enter a Descriptive name for this file.");
+    Arrange(6880, 4560, kLayout);
 }
 
 // The fields are filled without raising their events: loading asks nothing and writes

@@ -1,5 +1,7 @@
 #include "ui/Form.h"
 
+#include <algorithm>
+
 namespace ui {
 
 const char* KindName(ControlKind kind) {
@@ -199,7 +201,30 @@ std::vector<MenuItem*> Form::MenuArray(const std::string& name) {
 
 Control& Form::Add(const std::string& name, ControlKind kind, const std::string& caption) {
     controls_.push_back(std::make_unique<Control>(*this, name, kind, caption));
+    controls_.back()->TabIndex = static_cast<int>(controls_.size()) - 1;
     return *controls_.back();
+}
+
+void Form::TabOrder(std::initializer_list<const char*> first) {
+    int next = 0;
+    for (const char* name : first) (*this)[name].TabIndex = next++;
+    for (const auto& c : controls_)
+        if (std::find(first.begin(), first.end(), c->Name()) == first.end()) c->TabIndex = next++;
+}
+
+void Form::Arrange(int width, int height, std::span<const Placement> layout) {
+    Width = width;
+    Height = height;
+    std::map<std::string, int> placed;
+    for (const Placement& p : layout) {
+        Control& c = (*this)[p.control];
+        if (placed[p.control]++)
+            throw support::Error(support::errors::kInvalidCall, "Form " + name_ + " places " + p.control + " twice");
+        c.Left = p.left, c.Top = p.top, c.Width = p.width, c.Height = p.height;
+    }
+    for (const auto& c : controls_)
+        if (!placed.count(c->Name()))
+            throw support::Error(support::errors::kInvalidCall, "Form " + name_ + " has no place for " + c->Name());
 }
 
 MenuItem& Form::AddMenu(const std::string& name, const std::string& caption, const std::string& parent,

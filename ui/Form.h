@@ -1,7 +1,9 @@
 #pragma once
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <map>
+#include <span>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -47,7 +49,10 @@ public:
     std::string ToolTipText;
     std::string Group;                             // option buttons of one group exclude each other
     std::string Picture;                           // what a picture box shows
-    int Left = 0, Top = 0, Width = 0, Height = 0;  // twips
+    int Left = 0, Top = 0, Width = 0, Height = 0;  // twips, from the inside top-left of the form
+    // Where the control comes in the keyboard's Tab order: its place among the form's
+    // declarations, unless the form declares another.
+    int TabIndex = 0;
 
     // List and combo boxes. ListIndex is the row with the focus; in a list that takes
     // several rows (MultiSelect) each row is selected or not on its own, otherwise the
@@ -75,6 +80,12 @@ private:
     std::string caption_;
     int value_ = 0;
     std::vector<bool> selected_;  // MultiSelect lists only
+};
+
+// Where a control sits on its form, in twips: one line of a form's layout table.
+struct Placement {
+    const char* control;
+    int left, top, width, height;
 };
 
 // A menu item, or one element of a menu item array (Index >= 0).
@@ -116,7 +127,7 @@ public:
     // The form became the active window (shown, or brought back by the user).
     void Activate();
 
-    int Left = 0, Top = 0, Width = 6000, Height = 4000;  // twips
+    int Left = 0, Top = 0, Width = 6000, Height = 4000;  // twips, the whole window with its frame
 
     Control& operator[](const std::string& name);  // throws when the form has no such control
     Control* Find(const std::string& name);
@@ -145,6 +156,13 @@ protected:
     Control& Add(const std::string& name, ControlKind kind, const std::string& caption = "");
     MenuItem& AddMenu(const std::string& name, const std::string& caption, const std::string& parent = "",
                       int index = -1);
+    // Sizes the form and places every control from its layout table, the last step of
+    // Build(). The table must place each declared control once and nothing else, so a
+    // control added without a place fails the form's load rather than showing at 0,0.
+    void Arrange(int width, int height, std::span<const Placement> layout);
+    // Puts these controls first in the Tab order, in this order; the others follow in
+    // declaration order.
+    void TabOrder(std::initializer_list<const char*> first);
 
     // Use TW_ON / TW_ON_MENU rather than these: the macros tie the handler's name to the
     // control's. A handler takes nothing, or the index (MouseUp: the mouse button).

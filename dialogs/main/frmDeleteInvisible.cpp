@@ -38,12 +38,22 @@ void frmDeleteInvisible::cmdCancel_Click() {
     Unload();
 }
 
+// Where each control sits on the dialog, in twips.
+constexpr ui::Placement kLayout[] = {
+    {"Text1", 120, 120, 4800, 1200},
+    {"chkDelTree", 120, 1440, 2400, 255},
+    {"cmdDelete", 120, 1800, 2760, 375},
+    {"cmdCancel", 3000, 1800, 1920, 375},
+    {"Label1", 120, 2280, 4800, 255},
+};
+
 void frmDeleteInvisible::Build() {
     Add("chkDelTree", ui::ControlKind::CheckBox, "Delete all levels");
     Add("Text1", ui::ControlKind::TextBox, kWarning).Locked = true;
     Add("cmdDelete", ui::ControlKind::Button, "Delete Invisible Components");
     Add("cmdCancel", ui::ControlKind::Button, "Cancel");
     Add("Label1", ui::ControlKind::Label, "Status");
+    Arrange(5200, 3120, kLayout);
 }
 
 void frmDeleteInvisible::Form_Load() {

@@ -160,4 +160,60 @@ TEST(FormTest, ABindingToAMissingControlFailsTheLoad) {
     EXPECT_TRUE(f.Loaded());
 }
 
+// A form whose layout table a test chooses.
+class LaidOutForm : public ui::Form {
+public:
+    explicit LaidOutForm(ui::Platform& p) : ui::Form(p, "frmLaidOut", "Laid out") {}
+    std::vector<ui::Placement> layout = {{"txtName", 120, 120, 2400, 315}, {"cmdOK", 120, 600, 1200, 375},
+                                         {"cmdCancel", 1440, 600, 1200, 375}};
+    bool cancelFirst = false;
+
+protected:
+    void Build() override {
+        Add("txtName", ui::ControlKind::TextBox);
+        Add("cmdOK", ui::ControlKind::Button, "OK");
+        Add("cmdCancel", ui::ControlKind::Button, "Cancel");
+        Arrange(3000, 1500, layout);
+        if (cancelFirst) TabOrder({"cmdCancel"});
+    }
+};
+
+TEST(FormTest, TheLayoutPlacesEveryControlOnceAndNothingElse) {
+    RecordingPlatform p;
+    LaidOutForm f(p);
+    f.Load();
+    EXPECT_EQ(f.Width, 3000);
+    EXPECT_EQ(f["cmdCancel"].Left, 1440);
+    EXPECT_EQ(f["cmdCancel"].Height, 375);
+    f.Unload();
+
+    for (auto broken : {std::vector<ui::Placement>{{"txtName", 0, 0, 1, 1}, {"cmdOK", 0, 0, 1, 1}},
+                        std::vector<ui::Placement>{{"txtName", 0, 0, 1, 1},
+                                                   {"cmdOK", 0, 0, 1, 1},
+                                                   {"cmdCancel", 0, 0, 1, 1},
+                                                   {"cmdOK", 9, 9, 1, 1}},
+                        std::vector<ui::Placement>{{"txtName", 0, 0, 1, 1},
+                                                   {"cmdOK", 0, 0, 1, 1},
+                                                   {"cmdCancel", 0, 0, 1, 1},
+                                                   {"cmdHelp", 0, 0, 1, 1}}}) {
+        f.layout = broken;
+        EXPECT_THROW(f.Load(), support::Error);
+        EXPECT_FALSE(f.Loaded());
+    }
+}
+
+TEST(FormTest, TabOrderFollowsDeclarationUnlessTheFormSaysOtherwise) {
+    RecordingPlatform p;
+    LaidOutForm f(p);
+    f.Load();
+    EXPECT_EQ(f["txtName"].TabIndex, 0);
+    EXPECT_EQ(f["cmdCancel"].TabIndex, 2);
+    f.Unload();
+    f.cancelFirst = true;
+    f.Load();
+    EXPECT_EQ(f["cmdCancel"].TabIndex, 0);
+    EXPECT_EQ(f["txtName"].TabIndex, 1);
+    EXPECT_EQ(f["cmdOK"].TabIndex, 2);
+}
+
 }  // namespace
