@@ -1,9 +1,11 @@
 #include "ui/win32/FormWindow.h"
 
+#include <algorithm>
 #include <functional>
 
 #include "support/Error.h"
 #include "support/Utf16.h"
+#include "ui/win32/KeyboardNavigation.h"
 #include "ui/win32/Twips.h"
 
 namespace ui::win32 {
@@ -37,8 +39,8 @@ Look LookOf(const Control& c) {
             return {L"BUTTON", BS_RADIOBUTTON | WS_TABSTOP};
         case ControlKind::TextBox:
             return {L"EDIT", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP};
-        case ControlKind::Label:
-            return {L"STATIC", SS_LEFT | SS_NOPREFIX};
+        case ControlKind::Label:  // SS_NOTIFY: a label's tooltip needs the pointer's messages
+            return {L"STATIC", SS_LEFT | SS_NOPREFIX | SS_NOTIFY};
         case ControlKind::ListBox:
             return {L"LISTBOX",
                     static_cast<DWORD>(LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER |
@@ -46,12 +48,32 @@ Look LookOf(const Control& c) {
         case ControlKind::ComboBox:
             return {L"COMBOBOX", CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP};
         case ControlKind::Picture:
-            return {L"STATIC", SS_LEFT | SS_NOPREFIX | WS_BORDER};
+            return {L"STATIC", SS_LEFT | SS_NOPREFIX | SS_NOTIFY | WS_BORDER};
         case ControlKind::Frame:
             return {L"BUTTON", BS_GROUPBOX};
     }
     return {L"STATIC", 0};
 }
+
+// The form's controls in its Tab order.
+std::vector<Control*> InTabOrder(const Form& form) {
+    std::vector<Control*> controls;
+    for (const auto& control : form.Controls()) controls.push_back(control.get());
+    std::stable_sort(controls.begin(), controls.end(),
+                     [](const Control* a, const Control* b) { return a->TabIndex < b->TabIndex; });
+    return controls;
+}
+
+// The arrow keys move within a group, which runs from a WS_GROUP control to the next: each
+// control starts one, except an option button that follows one of its own group.
+bool StartsGroup(const Control& control, const Control* before) {
+    return !(control.Kind() == ControlKind::OptionButton && before &&
+             before->Kind() == ControlKind::OptionButton && before->Group == control.Group);
+}
+
+// The height a combo box is given is that of its dropped-down list too; its closed height
+// follows from its font.
+constexpr int kComboListTwips = 2400;
 
 // What a control's window shows as its text.
 const std::string& ShownText(const Control& c) {
@@ -103,19 +125,31 @@ void FormWindow::Create(HWND owner) {
     SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&FormWindow::WindowProc));
 
     HFONT font = static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
-    int id = kFirstControlId;
-    for (const auto& control : form_.Controls()) {
+    // Windows are made in Tab order: the keyboard moves through siblings in the order of
+    // their making.
+    std::vector<HWND> windows(form_.Controls().size());
+    const Control* before = nullptr;
+    for (Control* control : InTabOrder(form_)) {
         Look look = LookOf(*control);
-        HWND child =
+        std::size_t index = 0;
+        while (form_.Controls()[index].get() != control) ++index;
+        DWORD group = StartsGroup(*control, before) ? WS_GROUP : 0;
+        windows[index] =
             CreateWindowExW(control->Kind() == ControlKind::TextBox ? WS_EX_CLIENTEDGE : 0, look.windowClass,
-                            L"", WS_CHILD | look.style, 0, 0, 0, 0, window_,
-                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id++)), ThisModule(), nullptr);
-        SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
-        // A frame draws behind the controls that sit on it.
-        if (control->Kind() == ControlKind::Frame)
-            SetWindowPos(child, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-        children_.push_back({control.get(), child, {}});
+                            L"", WS_CHILD | group | look.style, 0, 0, 0, 0, window_,
+                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(kFirstControlId + index)),
+                            ThisModule(), nullptr);
+        SendMessageW(windows[index], WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+        before = control;
     }
+    for (std::size_t i = 0; i < windows.size(); ++i) children_.push_back({form_.Controls()[i].get(), windows[i], {}});
+    // A frame draws behind the controls that sit on it, and an outer frame behind the
+    // frames inside it, which are declared after it.
+    for (auto child = children_.rbegin(); child != children_.rend(); ++child)
+        if (child->control->Kind() == ControlKind::Frame)
+            SetWindowPos(child->window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    tips_.Create(window_);
+    AddNavigableWindow(window_);
     Sync();
 }
 
@@ -123,6 +157,8 @@ void FormWindow::Destroy() {
     if (!window_) return;
     HWND window = window_;
     window_ = nullptr;
+    RemoveNavigableWindow(window);
+    tips_.Destroy();
     children_.clear();
     DestroyWindow(window);
 }
@@ -142,6 +178,8 @@ void FormWindow::Sync() {
     if (!window_) return;
     syncing_ = true;
     SetTextIfChanged(window_, form_.Caption());
+    SetWindowPos(window_, nullptr, 0, 0, TwipsToPixels(form_.Width, dpi_), TwipsToPixels(form_.Height, dpi_),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     SyncMenuBar();
     for (Child& child : children_) SyncChild(child);
     syncing_ = false;
@@ -150,8 +188,9 @@ void FormWindow::Sync() {
 void FormWindow::SyncChild(Child& child) {
     const Control& c = *child.control;
     HWND w = child.window;
-    Place(w, c.Left, c.Top, c.Width, c.Height);
+    Place(w, c.Left, c.Top, c.Width, c.Height + (c.Kind() == ControlKind::ComboBox ? kComboListTwips : 0));
     EnableWindow(w, c.Enabled);
+    tips_.Set(w, c.ToolTipText);
     ShowWindow(w, c.Visible ? SW_SHOWNA : SW_HIDE);
     switch (c.Kind()) {
         case ControlKind::CheckBox:

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "ui/Form.h"
+#include "ui/win32/ToolTips.h"
 
 namespace ui::win32 {
 
@@ -15,11 +16,12 @@ namespace ui::win32 {
 // the screen's DPI. It only mirrors the form's state (Sync) and feeds what the user does
 // back into the form as its events; no logic lives here.
 //
-// The start of the renderer: every control kind, positions, captions and texts, enabled,
-// visible, values, list rows and the selected row, clicks, double clicks, text changes and
+// Every control kind, the form's size, positions, captions and texts, enabled, visible,
+// values, list rows and the selected row, tooltips, clicks, double clicks, text changes and
 // closing (the form is asked, and its platform destroys the window of an unloaded form),
-// the menu bar and pop-up menus. Not yet: tooltips, pictures' images, keyboard navigation
-// order.
+// the menu bar and pop-up menus, and the keyboard: Tab moves in the form's Tab order, the
+// arrow keys within an option group. Pictures show their name: the forms name their
+// pictures and carry no images.
 class FormWindow {
 public:
     explicit FormWindow(Form& form);
@@ -40,6 +42,7 @@ public:
     HWND Window() const { return window_; }
     // The child window of a control, for tests and the platform.
     HWND ControlWindow(const std::string& name) const;
+    HWND ToolTipWindow() const { return tips_.Window(); }
 
 private:
     struct Child {
@@ -58,7 +61,8 @@ private:
 
     Form& form_;
     HWND window_ = nullptr;
-    std::vector<Child> children_;
+    std::vector<Child> children_;  // in the form's declaration order
+    ToolTips tips_;
     int dpi_ = 96;
     bool syncing_ = false;  // the notifications our own updates cause are not the user's
     // False once this object is gone: a handler may unload the form, and the platform then
