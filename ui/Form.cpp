@@ -126,15 +126,20 @@ Form::~Form() = default;
 
 void Form::Load() {
     if (loaded_) return;
+    BuildDesign();
+    loaded_ = true;
+    platform_.FormLoaded(*this);
+    Form_Load();
+}
+
+void Form::BuildDesign() {
+    if (loaded_) throw support::Error(support::errors::kInvalidCall, "Form " + name_ + " is loaded");
     controls_.clear();
     menus_.clear();
     caption_ = designCaption_;
     focus_.clear();
     Build();
     CheckBindings();
-    loaded_ = true;
-    platform_.FormLoaded(*this);
-    Form_Load();
 }
 
 void Form::Show(bool modal) {

@@ -120,6 +120,9 @@ public:
     bool Modal() const { return modal_; }
 
     void Load();                    // builds and raises Form_Load once until unloaded
+    // Declares the controls as designed, without loading the form or asking its host for
+    // anything: what a view of the design (a layout check, a screenshot) renders.
+    void BuildDesign();
     void Show(bool modal = false);  // loads if needed; a modal show returns when the form closes
     void Hide();
     // Asks Form_QueryUnload, then unloads; false when the form refused.

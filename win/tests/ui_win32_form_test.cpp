@@ -4,6 +4,11 @@
 #include <vector>
 
 #include "support/Error.h"
+// clang-format off
+#include <windows.h>
+#include <commctrl.h>
+// clang-format on
+
 #include "ui/Form.h"
 #include "ui/win32/FormWindow.h"
 #include "ui/win32/Twips.h"
@@ -64,7 +69,7 @@ private:
         Width = 6000, Height = 4500;
         Place("fraOptions", ControlKind::Frame, "Options", 120, 120, 2880, 1200);
         Place("chkTop", ControlKind::CheckBox, "Top level", 240, 360, 2400, 300);
-        Place("cmdGo", ControlKind::Button, "Go", 3240, 120, 1215, 375);
+        Place("cmdGo", ControlKind::Button, "Go", 3240, 120, 1215, 375).ToolTipText = "Goes";
         Place("cmdFail", ControlKind::Button, "Fail", 3240, 600, 1215, 375);
         Place("txtName", ControlKind::TextBox, "Frame", 120, 1500, 2880, 315);
         Place("lblStatus", ControlKind::Label, "", 120, 1920, 2880, 255);
@@ -132,6 +137,12 @@ TEST_F(FormWindowTest, PlacesEveryControlFromTwipsAtTheScreensDpi) {
         EXPECT_EQ(r.bottom - r.top, TwipsToPixels(control->Height, dpi)) << control->Name();
     }
     EXPECT_EQ(TwipsToPixels(1440, 96), 96);
+    // The form's size is the whole window's, and follows the form.
+    form.Width = 7200;
+    window.Sync();
+    RECT whole;
+    GetWindowRect(window.Window(), &whole);
+    EXPECT_EQ(whole.right - whole.left, TwipsToPixels(7200, dpi));
     // Each shows what the form says.
     EXPECT_EQ(Text("cmdGo"), L"Go");
     EXPECT_EQ(Text("txtName"), L"Frame");
@@ -177,6 +188,62 @@ TEST_F(FormWindowTest, ClosingAsksTheForm) {
     form.refuseClosing = false;
     SendMessageW(window.Window(), WM_CLOSE, 0, 0);
     EXPECT_FALSE(form.Loaded());
+}
+
+std::wstring ToolTip(HWND tips, HWND control, HWND form) {
+    wchar_t text[80] = L"";
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V2_SIZE;
+    tool.hwnd = form;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    tool.lpszText = text;
+    SendMessageW(tips, TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
+    return text;
+}
+
+TEST_F(FormWindowTest, AControlWithATipShowsItAndTheTipFollowsTheForm) {
+    HWND tips = window.ToolTipWindow(), go = window.ControlWindow("cmdGo");
+    EXPECT_EQ(SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 1);
+    EXPECT_EQ(ToolTip(tips, go, window.Window()), L"Goes");
+    form["cmdGo"].ToolTipText = "Goes on";
+    window.Sync();
+    EXPECT_EQ(ToolTip(tips, go, window.Window()), L"Goes on");
+    form["cmdGo"].ToolTipText = "";
+    window.Sync();
+    EXPECT_EQ(SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 0);
+}
+
+// Presses Tab where the focus is, as the keyboard does, through the thread's message loop.
+std::string PressTab(const FormWindow& window, const Form& form) {
+    PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 0);
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    for (const auto& control : form.Controls())
+        if (window.ControlWindow(control->Name()) == GetFocus()) return control->Name();
+    return "?";
+}
+
+TEST_F(FormWindowTest, TabMovesTheFocusInTheFormsTabOrder) {
+    ShowWindow(window.Window(), SW_SHOW);
+    SetForegroundWindow(window.Window());
+    SetFocus(window.ControlWindow("chkTop"));
+    std::vector<std::string> visited;
+    for (int i = 0; i < 5; ++i) visited.push_back(PressTab(window, form));
+    // Frames and labels take no focus; after the last control the first comes again.
+    EXPECT_EQ(visited, (std::vector<std::string>{"cmdGo", "cmdFail", "txtName", "lstNames", "chkTop"}));
+
+    window.Destroy();
+    form["lstNames"].TabIndex = -1;  // declared first
+    window.Create(nullptr);
+    ShowWindow(window.Window(), SW_SHOW);
+    SetForegroundWindow(window.Window());
+    SetFocus(window.ControlWindow("lstNames"));
+    EXPECT_EQ(PressTab(window, form), "chkTop");
+    SetFocus(window.ControlWindow("txtName"));
+    EXPECT_EQ(PressTab(window, form), "lstNames");
 }
 
 std::wstring MenuText(HMENU menu, int position) {
