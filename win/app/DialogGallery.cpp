@@ -27,16 +27,16 @@ void LetItPaint(HWND window) {
     }
 }
 
-// What the screen shows where the window is, as a 24-bit BMP file.
+// What the window shows, its frame and caption with it, as a 24-bit BMP file.
 bool WriteWindowPicture(HWND window, const std::filesystem::path& file) {
     RECT r;
     GetWindowRect(window, &r);
     int width = r.right - r.left, height = r.bottom - r.top;
-    HDC screen = GetDC(nullptr);
+    HDC screen = GetWindowDC(window);
     HDC memory = CreateCompatibleDC(screen);
     HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
     HGDIOBJ old = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, screen, r.left, r.top, SRCCOPY);
+    BitBlt(memory, 0, 0, width, height, screen, 0, 0, SRCCOPY);
     SelectObject(memory, old);
 
     BITMAPINFOHEADER info{sizeof info, width, height, 1, 24, BI_RGB};
@@ -45,7 +45,7 @@ bool WriteWindowPicture(HWND window, const std::filesystem::path& file) {
     GetDIBits(memory, bitmap, 0, height, pixels.data(), reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS);
     DeleteObject(bitmap);
     DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
+    ReleaseDC(window, screen);
 
     BITMAPFILEHEADER header{};
     header.bfType = 0x4D42;  // "BM"

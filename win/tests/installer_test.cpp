@@ -3,8 +3,12 @@
 // install. TARNWELL_INSTALLER names the installer.
 #include <gtest/gtest.h>
 
+#include <shlobj.h>
+
 #include <cstdlib>
+#include <fstream>
 #include <optional>
+#include <sstream>
 #include <string>
 
 #include "support/Utf16.h"
@@ -46,6 +50,20 @@ std::optional<std::wstring> Value(HKEY root, const std::wstring& key, const wcha
     return std::wstring(data);
 }
 
+// Where later hosts read add-in manifests.
+std::wstring ManifestFile() {
+    wchar_t common[MAX_PATH] = L"";
+    SHGetFolderPathW(nullptr, CSIDL_COMMON_APPDATA, nullptr, 0, common);
+    return std::wstring(common) + L"\\Autodesk\\Inventor Addins\\Tarnwell.addin";
+}
+
+std::string Contents(const std::wstring& file) {
+    std::ifstream in(file.c_str());
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
 TEST(Installer, InstallsAndRegistersThenUninstallsEverythingButTheSettings) {
     const char* installer = std::getenv("TARNWELL_INSTALLER");
     ASSERT_NE(installer, nullptr) << "TARNWELL_INSTALLER names no installer";
@@ -68,11 +86,16 @@ TEST(Installer, InstallsAndRegistersThenUninstallsEverythingButTheSettings) {
         << "registered where it lies";
     EXPECT_EQ(Value(HKEY_CLASSES_ROOT, clsidKey + L"\\Settings", L"LoadOnStartUp"), L"1");
     EXPECT_EQ(Value(HKEY_LOCAL_MACHINE, kUninstallKey, L"UninstallString"), L"\"" + uninstaller + L"\"");
+    std::string manifest = Contents(ManifestFile());
+    EXPECT_NE(manifest.find("<Assembly>" + support::Utf16ToUtf8(dll) + "</Assembly>"), std::string::npos)
+        << "the manifest names the installed DLL:\n" << manifest;
+    EXPECT_NE(manifest.find(support::Utf16ToUtf8(win::server::kAddInClsidText)), std::string::npos);
 
     // The uninstaller runs from a copy of itself and returns at once: wait for its work.
     RunAndWait(L"\"" + uninstaller + L"\" /S");
     for (int i = 0; i < 300 && Exists(kFolder); ++i) Sleep(100);
     EXPECT_FALSE(Exists(kFolder)) << "a file of ours was left";
+    EXPECT_FALSE(Exists(ManifestFile())) << "the manifest was left";
     EXPECT_FALSE(Value(HKEY_CLASSES_ROOT, clsidKey, nullptr)) << "the add-in is still registered";
     HKEY probe;
     EXPECT_NE(RegOpenKeyExW(HKEY_LOCAL_MACHINE, kUninstallKey.c_str(), 0, KEY_READ, &probe), ERROR_SUCCESS);
