@@ -20,6 +20,14 @@ public:
 protected:
     BaseAssemblyForm(addin::AddinState& state, std::string name, std::string caption);
 
+    // The shared frames sit at the top of the dialog, as wide as it is (kSharedWidth).
+    static constexpr int kSharedWidth = 7000;
+    static constexpr ui::Placement kBaseAssemblyLayout[] = {
+        {"fraBaseAssembly", 120, 120, 6600, 1080},    {"chkTop", 240, 390, 840, 255},
+        {"cmdSelect", 4920, 330, 1680, 375},          {"txtBaseAssembly", 240, 780, 6360, 315},
+        {"fraTargetDirectory", 120, 1320, 6600, 720}, {"txtTargetDir", 240, 1590, 5640, 315},
+        {"cmdBrowse", 6000, 1560, 600, 375}};
+
     // Declare the shared controls from Build(), in the dialog's layout order.
     void AddBaseAssemblyControls();                              // chkTop, txtBaseAssembly, cmdSelect
     void AddTargetControls();                                    // txtTargetDir, cmdBrowse

@@ -24,29 +24,15 @@ frmCloneNames::frmCloneNames(addin::AddinState& state)
     // "Sequential" and its format list are shown but take no part in naming.
 }
 
-// Where each control sits on the dialog, in twips.
+// Where each control sits below the shared frames, in twips.
 constexpr ui::Placement kLayout[] = {
-    {"fraBaseAssembly", 120, 120, 6600, 1080},
-    {"chkTop", 240, 390, 840, 255},
-    {"cmdSelect", 4920, 330, 1680, 375},
-    {"txtBaseAssembly", 240, 780, 6360, 315},
-    {"fraTargetDirectory", 120, 1320, 6600, 720},
-    {"txtTargetDir", 240, 1590, 5640, 315},
-    {"cmdBrowse", 6000, 1560, 600, 375},
-    {"chkPrefix", 120, 2190, 1320, 255},
-    {"txtPrefix", 1560, 2160, 1800, 315},
-    {"chkSuffix", 120, 2580, 1320, 255},
-    {"txtSuffix", 1560, 2550, 1800, 315},
-    {"lblSeq", 3600, 2190, 3120, 255},
-    {"chkSeqSuffix", 3600, 2580, 1320, 255},
-    {"cboSeq", 5040, 2550, 1680, 315},
-    {"fraReplace", 120, 3000, 6600, 1080},
-    {"optStandalone", 240, 3270, 2880, 255},
-    {"Option2", 3240, 3270, 2880, 255},
-    {"chkOpen", 240, 3660, 2880, 255},
-    {"cmdClone", 120, 4200, 1800, 375},
-    {"cmdDone", 5400, 4200, 1320, 375},
-    {"Status", 120, 4680, 6600, 255},
+    {"chkPrefix", 120, 2190, 1320, 255},     {"txtPrefix", 1560, 2160, 1800, 315},
+    {"chkSuffix", 120, 2580, 1320, 255},     {"txtSuffix", 1560, 2550, 1800, 315},
+    {"lblSeq", 3600, 2190, 3120, 255},       {"chkSeqSuffix", 3600, 2580, 1320, 255},
+    {"cboSeq", 5040, 2550, 1680, 315},       {"fraReplace", 120, 3000, 6600, 1080},
+    {"optStandalone", 240, 3270, 2880, 255}, {"Option2", 3240, 3270, 2880, 255},
+    {"chkOpen", 240, 3660, 2880, 255},       {"cmdClone", 120, 4200, 1800, 375},
+    {"cmdDone", 5400, 4200, 1320, 375},      {"Status", 120, 4680, 6600, 255},
 };
 
 void frmCloneNames::Build() {
@@ -66,7 +52,7 @@ void frmCloneNames::Build() {
     standalone.Group = inPlace.Group = "Replace";
     Add("chkOpen", ControlKind::CheckBox, "Open New Assy");
     AddCommandControls("Execute Clone");
-    Arrange(7000, 5520, kLayout);
+    Arrange(kSharedWidth, 5520, {kBaseAssemblyLayout, kLayout});
 }
 
 void frmCloneNames::Form_Activate() {

@@ -35,16 +35,11 @@ void frmOpenIDW::txtDrawingPath_Change() {
 
 // Where each control sits on the dialog, in twips.
 constexpr ui::Placement kLayout[] = {
-    {"fraModel", 120, 120, 6600, 1080},
-    {"txtModelFile", 240, 390, 6360, 315},
-    {"lblModelPath", 240, 780, 600, 255},
-    {"txtModelPath", 840, 750, 5760, 315},
-    {"fraDrawing", 120, 1320, 6600, 1080},
-    {"txtDrawingFile", 240, 1590, 5640, 315},
-    {"cmdBrowse", 6000, 1560, 600, 375},
-    {"lblDrawingPath", 240, 2010, 600, 255},
-    {"txtDrawingPath", 840, 1980, 5760, 315},
-    {"cmdOpenIDW", 120, 2520, 1800, 375},
+    {"fraModel", 120, 120, 6600, 1080},       {"txtModelFile", 240, 390, 6360, 315},
+    {"lblModelPath", 240, 780, 600, 255},     {"txtModelPath", 840, 750, 5760, 315},
+    {"fraDrawing", 120, 1320, 6600, 1080},    {"txtDrawingFile", 240, 1590, 5640, 315},
+    {"cmdBrowse", 6000, 1560, 600, 375},      {"lblDrawingPath", 240, 2010, 600, 255},
+    {"txtDrawingPath", 840, 1980, 5760, 315}, {"cmdOpenIDW", 120, 2520, 1800, 375},
     {"cmdCancel", 5400, 2520, 1320, 375},
 };
 
@@ -60,7 +55,7 @@ void frmOpenIDW::Build() {
     Add("cmdBrowse", ControlKind::Button, "...");
     Add("cmdOpenIDW", ControlKind::Button, "Open IDW");
     Add("cmdCancel", ControlKind::Button, "Close");
-    Arrange(7000, 3480, kLayout);
+    Arrange(7000, 3480, {kLayout});
 }
 
 void frmOpenIDW::Form_Load() {

@@ -22,21 +22,11 @@ frmPacknLink::frmPacknLink(addin::AddinState& state)
     TW_ON(cmdClone, Click);
 }
 
-// Where each control sits on the dialog, in twips.
+// Where each control sits below the shared frames, in twips.
 constexpr ui::Placement kLayout[] = {
-    {"fraBaseAssembly", 120, 120, 6600, 1080},
-    {"chkTop", 240, 390, 840, 255},
-    {"cmdSelect", 4920, 330, 1680, 375},
-    {"txtBaseAssembly", 240, 780, 6360, 315},
-    {"fraTargetDirectory", 120, 1320, 6600, 720},
-    {"txtTargetDir", 240, 1590, 5640, 315},
-    {"cmdBrowse", 6000, 1560, 600, 375},
-    {"fraDataSource", 120, 2160, 6600, 1080},
-    {"lblNote", 240, 2400, 6360, 255},
-    {"optFromMem", 240, 2760, 2880, 255},
-    {"optFromDisk", 3240, 2760, 2880, 255},
-    {"cmdClone", 120, 3360, 1800, 375},
-    {"cmdDone", 5400, 3360, 1320, 375},
+    {"fraDataSource", 120, 2160, 6600, 1080}, {"lblNote", 240, 2400, 6360, 255},
+    {"optFromMem", 240, 2760, 2880, 255},     {"optFromDisk", 3240, 2760, 2880, 255},
+    {"cmdClone", 120, 3360, 1800, 375},       {"cmdDone", 5400, 3360, 1320, 375},
     {"Status", 120, 3840, 6600, 255},
 };
 
@@ -50,7 +40,7 @@ void frmPacknLink::Build() {
     fromMemory.Group = fromDisk.Group = "DataSource";
     fromMemory.SetValue(-1);
     AddCommandControls("Execute Pack");
-    Arrange(7000, 4680, kLayout);
+    Arrange(kSharedWidth, 4680, {kBaseAssemblyLayout, kLayout});
 }
 
 void frmPacknLink::Form_Activate() {

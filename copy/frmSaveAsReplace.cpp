@@ -29,14 +29,10 @@ frmSaveAsReplace::frmSaveAsReplace(addin::AddinState& state)
 
 // Where each control sits on the dialog, in twips.
 constexpr ui::Placement kLayout[] = {
-    {"cmdSelect", 120, 120, 3000, 375},
-    {"tbxFullFileName", 120, 600, 6600, 315},
-    {"tbxNewFileName", 120, 1020, 5640, 315},
-    {"cmdBrowse", 5880, 990, 840, 375},
-    {"chkReplaceAll", 120, 1500, 2400, 255},
-    {"chkBrowserName", 2640, 1500, 2880, 255},
-    {"MakeIndependent", 120, 1920, 2400, 375},
-    {"CommandButton1", 5400, 1920, 1320, 375},
+    {"cmdSelect", 120, 120, 3000, 375},        {"tbxFullFileName", 120, 600, 6600, 315},
+    {"tbxNewFileName", 120, 1020, 5640, 315},  {"cmdBrowse", 5880, 990, 840, 375},
+    {"chkReplaceAll", 120, 1500, 2400, 255},   {"chkBrowserName", 2640, 1500, 2880, 255},
+    {"MakeIndependent", 120, 1920, 2400, 375}, {"CommandButton1", 5400, 1920, 1320, 375},
 };
 
 void frmSaveAsReplace::Build() {
@@ -48,7 +44,7 @@ void frmSaveAsReplace::Build() {
     Add("chkBrowserName", ControlKind::CheckBox, "Change Browser Name");
     Add("MakeIndependent", ControlKind::Button, "Save As and Replace");
     Add("CommandButton1", ControlKind::Button, "Done");
-    Arrange(7000, 2880, kLayout);
+    Arrange(7000, 2880, {kLayout});
 }
 
 void frmSaveAsReplace::Form_Load() {

@@ -58,7 +58,7 @@ void frmGetColor::Build() {
     Add("CommandButton1", ui::ControlKind::Button, "Apply");
     Add("CommandButton2", ui::ControlKind::Button, "Done");
     Add("Status", ui::ControlKind::Label, "Status");
-    Arrange(7480, 5700, kLayout);
+    Arrange(7480, 5700, {kLayout});
 }
 
 void frmGetColor::Form_Load() {

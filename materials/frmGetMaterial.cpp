@@ -162,7 +162,7 @@ void frmGetMaterial::Build() {
     Add("Picture3", ui::ControlKind::Picture).Visible = false;
     (*this)["Picture2"].Picture = "collapsed";
     (*this)["Picture3"].Picture = "expanded";
-    Arrange(kExpandedWidth, 6240, kLayout);
+    Arrange(kExpandedWidth, 6240, {kLayout});
 }
 
 void frmGetMaterial::Form_Load() {

@@ -70,7 +70,7 @@ void frmOverrideWeight::Build() {
     Add("tbxNewDensity", ui::ControlKind::TextBox);
     Add("Command1", ui::ControlKind::Button, "Apply");
     Add("Command2", ui::ControlKind::Button, "Done");
-    Arrange(5200, 4380, kLayout);
+    Arrange(5200, 4380, {kLayout});
 }
 
 void frmOverrideWeight::Form_Load() {

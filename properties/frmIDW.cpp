@@ -69,7 +69,7 @@ void frmIDW::Build() {
     Add("Status", ui::ControlKind::Label, "Status");
     AddMenu("mnuPopUp", "PopUp").Visible = false;  // shown over the list, never in the menu bar
     AddMenu("mnuExplore", "Explore", "mnuPopUp");
-    Arrange(8200, 5940, kLayout);
+    Arrange(8200, 5940, {kLayout});
 }
 
 // Showing the stored state writes nothing back: the design status is shown without its

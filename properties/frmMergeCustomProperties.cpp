@@ -30,12 +30,9 @@ frmMergeCustomProperties::frmMergeCustomProperties(addin::AddinState& state)
 
 // Where each control sits on the dialog, in twips.
 constexpr ui::Placement kLayout[] = {
-    {"Frame1", 120, 120, 6600, 720},
-    {"txtIDWTemplateFile", 240, 390, 5700, 315},
-    {"cmdBrowse", 6060, 360, 540, 375},
-    {"Label1", 120, 960, 6600, 1680},
-    {"cmdMerge", 3960, 2760, 1320, 375},
-    {"cmdCancel", 5400, 2760, 1320, 375},
+    {"Frame1", 120, 120, 6600, 720},     {"txtIDWTemplateFile", 240, 390, 5700, 315},
+    {"cmdBrowse", 6060, 360, 540, 375},  {"Label1", 120, 960, 6600, 1680},
+    {"cmdMerge", 3960, 2760, 1320, 375}, {"cmdCancel", 5400, 2760, 1320, 375},
 };
 
 void frmMergeCustomProperties::Build() {
@@ -45,7 +42,7 @@ void frmMergeCustomProperties::Build() {
     Add("txtIDWTemplateFile", ui::ControlKind::TextBox);
     Add("cmdBrowse", ui::ControlKind::Button).Picture = "folder";
     Add("Label1", ui::ControlKind::Label, "Results");
-    Arrange(7000, 3720, kLayout);
+    Arrange(7000, 3720, {kLayout});
     // The file comes before the buttons that act on it.
     TabOrder({"txtIDWTemplateFile", "cmdBrowse", "cmdMerge", "cmdCancel"});
 }

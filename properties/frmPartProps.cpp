@@ -44,10 +44,8 @@ void frmPartProps::ListBox1_MouseUp(int button) {
 
 // Where each control sits on the dialog, in twips.
 constexpr ui::Placement kLayout[] = {
-    {"Label1", 120, 120, 6000, 255},
-    {"ListBox1", 120, 420, 6000, 3000},
-    {"chkOpenNewFile", 120, 3540, 3000, 255},
-    {"cmdOpenIDW", 120, 3900, 2160, 375},
+    {"Label1", 120, 120, 6000, 255},          {"ListBox1", 120, 420, 6000, 3000},
+    {"chkOpenNewFile", 120, 3540, 3000, 255}, {"cmdOpenIDW", 120, 3900, 2160, 375},
     {"cmdCancel", 4800, 3900, 1320, 375},
 };
 
@@ -60,7 +58,7 @@ void frmPartProps::Build() {
     auto& popup = AddMenu("mnuPopup", "Popup");
     popup.Visible = false;  // shown at the pointer over the list, never in the menu bar
     AddMenu("mnuExplore", "Explore", "mnuPopup");
-    Arrange(6400, 4860, kLayout);
+    Arrange(6400, 4860, {kLayout});
 }
 
 void frmPartProps::Form_Load() {

@@ -94,7 +94,7 @@ void frmUpdateMatrix::Build() {
     Add("lblCommodityCode", ui::ControlKind::Label, "Commodity Code");
     Add("lblSelectCommodityCode", ui::ControlKind::Label, "Select a commodity code from the list below.");
     Add("lblFileDescriptiveText", ui::ControlKind::Label, "Enter a Descriptive name for this file.");
-    Arrange(6880, 4560, kLayout);
+    Arrange(6880, 4560, {kLayout});
 }
 
 // The fields are filled without raising their events: loading asks nothing and writes

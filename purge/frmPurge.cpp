@@ -28,12 +28,9 @@ frmPurge::frmPurge(addin::AddinState& state)
 
 // Where each control sits on the dialog, in twips.
 constexpr ui::Placement kLayout[] = {
-    {"lstResults", 120, 120, 7200, 3600},
-    {"chkWrite", 120, 3840, 2400, 255},
-    {"cmdStart", 120, 4200, 1200, 375},
-    {"cmdStop", 1440, 4200, 1200, 375},
-    {"cmdSaveLog", 2760, 4200, 1200, 375},
-    {"cmdDone", 6120, 4200, 1200, 375},
+    {"lstResults", 120, 120, 7200, 3600},  {"chkWrite", 120, 3840, 2400, 255},
+    {"cmdStart", 120, 4200, 1200, 375},    {"cmdStop", 1440, 4200, 1200, 375},
+    {"cmdSaveLog", 2760, 4200, 1200, 375}, {"cmdDone", 6120, 4200, 1200, 375},
 };
 
 void frmPurge::Build() {
@@ -43,7 +40,7 @@ void frmPurge::Build() {
     Add("cmdStop", ui::ControlKind::Button, "Stop").Enabled = false;
     Add("cmdSaveLog", ui::ControlKind::Button, "Save Log");
     Add("cmdDone", ui::ControlKind::Button, "Close");
-    Arrange(7600, 5160, kLayout);
+    Arrange(7600, 5160, {kLayout});
 }
 
 // Once the walk has ended, by itself or by Stop, "Start" is back and "Stop" rests

@@ -217,19 +217,22 @@ void Form::TabOrder(std::initializer_list<const char*> first) {
         if (std::find(first.begin(), first.end(), c->Name()) == first.end()) c->TabIndex = next++;
 }
 
-void Form::Arrange(int width, int height, std::span<const Placement> layout) {
+void Form::Arrange(int width, int height, std::initializer_list<std::span<const Placement>> layout) {
     Width = width;
     Height = height;
     std::map<std::string, int> placed;
-    for (const Placement& p : layout) {
-        Control& c = (*this)[p.control];
-        if (placed[p.control]++)
-            throw support::Error(support::errors::kInvalidCall, "Form " + name_ + " places " + p.control + " twice");
-        c.Left = p.left, c.Top = p.top, c.Width = p.width, c.Height = p.height;
-    }
+    for (std::span<const Placement> table : layout)
+        for (const Placement& p : table) {
+            Control& c = (*this)[p.control];
+            if (placed[p.control]++)
+                throw support::Error(support::errors::kInvalidCall,
+                                     "Form " + name_ + " places " + p.control + " twice");
+            c.Left = p.left, c.Top = p.top, c.Width = p.width, c.Height = p.height;
+        }
     for (const auto& c : controls_)
         if (!placed.count(c->Name()))
-            throw support::Error(support::errors::kInvalidCall, "Form " + name_ + " has no place for " + c->Name());
+            throw support::Error(support::errors::kInvalidCall,
+                                 "Form " + name_ + " has no place for " + c->Name());
 }
 
 MenuItem& Form::AddMenu(const std::string& name, const std::string& caption, const std::string& parent,

@@ -3,8 +3,8 @@
 #include <functional>
 #include <initializer_list>
 #include <map>
-#include <span>
 #include <memory>
+#include <span>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -119,7 +119,7 @@ public:
     bool Visible() const { return visible_; }
     bool Modal() const { return modal_; }
 
-    void Load();                    // builds and raises Form_Load once until unloaded
+    void Load();  // builds and raises Form_Load once until unloaded
     // Declares the controls as designed, without loading the form or asking its host for
     // anything: what a view of the design (a layout check, a screenshot) renders.
     void BuildDesign();
@@ -159,10 +159,10 @@ protected:
     Control& Add(const std::string& name, ControlKind kind, const std::string& caption = "");
     MenuItem& AddMenu(const std::string& name, const std::string& caption, const std::string& parent = "",
                       int index = -1);
-    // Sizes the form and places every control from its layout table, the last step of
-    // Build(). The table must place each declared control once and nothing else, so a
+    // Sizes the form and places every control from its layout tables, the last step of
+    // Build(). The tables must place each declared control once and nothing else, so a
     // control added without a place fails the form's load rather than showing at 0,0.
-    void Arrange(int width, int height, std::span<const Placement> layout);
+    void Arrange(int width, int height, std::initializer_list<std::span<const Placement>> layout);
     // Puts these controls first in the Tab order, in this order; the others follow in
     // declaration order.
     void TabOrder(std::initializer_list<const char*> first);

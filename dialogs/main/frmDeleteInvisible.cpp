@@ -40,10 +40,8 @@ void frmDeleteInvisible::cmdCancel_Click() {
 
 // Where each control sits on the dialog, in twips.
 constexpr ui::Placement kLayout[] = {
-    {"Text1", 120, 120, 4800, 1200},
-    {"chkDelTree", 120, 1440, 2400, 255},
-    {"cmdDelete", 120, 1800, 2760, 375},
-    {"cmdCancel", 3000, 1800, 1920, 375},
+    {"Text1", 120, 120, 4800, 1200},     {"chkDelTree", 120, 1440, 2400, 255},
+    {"cmdDelete", 120, 1800, 2760, 375}, {"cmdCancel", 3000, 1800, 1920, 375},
     {"Label1", 120, 2280, 4800, 255},
 };
 
@@ -53,7 +51,7 @@ void frmDeleteInvisible::Build() {
     Add("cmdDelete", ui::ControlKind::Button, "Delete Invisible Components");
     Add("cmdCancel", ui::ControlKind::Button, "Cancel");
     Add("Label1", ui::ControlKind::Label, "Status");
-    Arrange(5200, 3120, kLayout);
+    Arrange(5200, 3120, {kLayout});
 }
 
 void frmDeleteInvisible::Form_Load() {

@@ -49,30 +49,18 @@ frmPreview::~frmPreview() {
 
 // Where each control sits on the dialog, in twips.
 constexpr ui::Placement kLayout[] = {
-    {"ListBox1", 120, 120, 5400, 3120},
-    {"Picture1", 5640, 120, 2760, 2040},
-    {"picLocked", 5640, 2280, 480, 480},
-    {"cmdSelect", 120, 3360, 2640, 375},
-    {"cmdTopLevel", 2880, 3360, 2640, 375},
-    {"cmdVisible", 5640, 3360, 2760, 375},
-    {"cmdDelete", 120, 3810, 2640, 375},
-    {"cmdDeleteInvisible", 2880, 3810, 2640, 375},
-    {"cmdMakeLite", 5640, 3810, 2760, 375},
-    {"cmdClone", 120, 4260, 2640, 375},
-    {"cmdPackNLink", 2880, 4260, 2640, 375},
-    {"cmdPurge", 5640, 4260, 2760, 375},
-    {"cmdOpenIDW", 120, 4710, 2640, 375},
-    {"cmdTopIDW", 2880, 4710, 2640, 375},
-    {"cmdNewThumbnail", 120, 5160, 2640, 375},
-    {"cmdMultThumbnail", 2880, 5160, 2640, 375},
-    {"cmdThumbnailTop", 5640, 5160, 2760, 375},
-    {"Frame1", 120, 5700, 8280, 1200},
-    {"OptionButton1", 240, 5940, 1800, 255},
-    {"OptionButton2", 2160, 5940, 1800, 255},
-    {"OptionButton3", 4200, 5940, 1800, 255},
-    {"Check1", 240, 6420, 1500, 255},
-    {"Check2", 2160, 6420, 1500, 255},
-    {"cmdChgBrowser", 6240, 6300, 2040, 375},
+    {"ListBox1", 120, 120, 5400, 3120},         {"Picture1", 5640, 120, 2760, 2040},
+    {"picLocked", 5640, 2280, 480, 480},        {"cmdSelect", 120, 3360, 2640, 375},
+    {"cmdTopLevel", 2880, 3360, 2640, 375},     {"cmdVisible", 5640, 3360, 2760, 375},
+    {"cmdDelete", 120, 3810, 2640, 375},        {"cmdDeleteInvisible", 2880, 3810, 2640, 375},
+    {"cmdMakeLite", 5640, 3810, 2760, 375},     {"cmdClone", 120, 4260, 2640, 375},
+    {"cmdPackNLink", 2880, 4260, 2640, 375},    {"cmdPurge", 5640, 4260, 2760, 375},
+    {"cmdOpenIDW", 120, 4710, 2640, 375},       {"cmdTopIDW", 2880, 4710, 2640, 375},
+    {"cmdNewThumbnail", 120, 5160, 2640, 375},  {"cmdMultThumbnail", 2880, 5160, 2640, 375},
+    {"cmdThumbnailTop", 5640, 5160, 2760, 375}, {"Frame1", 120, 5700, 8280, 1200},
+    {"OptionButton1", 240, 5940, 1800, 255},    {"OptionButton2", 2160, 5940, 1800, 255},
+    {"OptionButton3", 4200, 5940, 1800, 255},   {"Check1", 240, 6420, 1500, 255},
+    {"Check2", 2160, 6420, 1500, 255},          {"cmdChgBrowser", 6240, 6300, 2040, 375},
     {"cmdCancel", 5640, 7080, 2760, 375},
 };
 
@@ -101,7 +89,7 @@ void frmPreview::Build() {
     BuildNameInBrowserFrame();
     Add("cmdCancel", ui::ControlKind::Button, "Done");
     BuildMenus();
-    Arrange(8700, 8400, kLayout);
+    Arrange(8700, 8400, {kLayout});
 }
 
 void frmPreview::BuildNameInBrowserFrame() {

@@ -164,7 +164,8 @@ TEST(FormTest, ABindingToAMissingControlFailsTheLoad) {
 class LaidOutForm : public ui::Form {
 public:
     explicit LaidOutForm(ui::Platform& p) : ui::Form(p, "frmLaidOut", "Laid out") {}
-    std::vector<ui::Placement> layout = {{"txtName", 120, 120, 2400, 315}, {"cmdOK", 120, 600, 1200, 375},
+    std::vector<ui::Placement> layout = {{"txtName", 120, 120, 2400, 315},
+                                         {"cmdOK", 120, 600, 1200, 375},
                                          {"cmdCancel", 1440, 600, 1200, 375}};
     bool cancelFirst = false;
 
@@ -173,7 +174,7 @@ protected:
         Add("txtName", ui::ControlKind::TextBox);
         Add("cmdOK", ui::ControlKind::Button, "OK");
         Add("cmdCancel", ui::ControlKind::Button, "Cancel");
-        Arrange(3000, 1500, layout);
+        Arrange(3000, 1500, {layout});
         if (cancelFirst) TabOrder({"cmdCancel"});
     }
 };

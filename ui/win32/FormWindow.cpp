@@ -6,6 +6,7 @@
 #include "support/Error.h"
 #include "support/Utf16.h"
 #include "ui/win32/KeyboardNavigation.h"
+#include "ui/win32/Pictures.h"
 #include "ui/win32/Twips.h"
 
 namespace ui::win32 {
@@ -86,9 +87,30 @@ std::wstring WindowText(HWND window) {
     return text;
 }
 
-void SetTextIfChanged(HWND window, const std::string& text) {
-    std::wstring wide = support::Utf8ToUtf16(text);
+void SetTextIfChanged(HWND window, const std::wstring& wide) {
     if (WindowText(window) != wide) SetWindowTextW(window, wide.c_str());
+}
+
+void SetTextIfChanged(HWND window, const std::string& text) {
+    SetTextIfChanged(window, support::Utf8ToUtf16(text));
+}
+
+void SetIconStyle(HWND button, bool icon) {
+    LONG_PTR style = GetWindowLongPtrW(button, GWL_STYLE);
+    LONG_PTR wanted = icon ? style | BS_ICON : style & ~static_cast<LONG_PTR>(BS_ICON);
+    if (wanted != style) SetWindowLongPtrW(button, GWL_STYLE, wanted);
+}
+
+// A button without a caption shows its picture: an image, or a text standing for it. A
+// button takes an image only while its style says icon: the style comes first to show one,
+// and last to take it away.
+void ShowPicture(HWND button, const std::string& picture) {
+    PictureLook look = LookOfPicture(picture);
+    if (look.icon) SetIconStyle(button, true);
+    if (reinterpret_cast<HICON>(SendMessageW(button, BM_GETIMAGE, IMAGE_ICON, 0)) != look.icon)
+        SendMessageW(button, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(look.icon));
+    if (!look.icon) SetIconStyle(button, false);
+    SetTextIfChanged(button, look.text);
 }
 
 void RegisterWindowClass() {
@@ -134,15 +156,15 @@ void FormWindow::Create(HWND owner) {
         std::size_t index = 0;
         while (form_.Controls()[index].get() != control) ++index;
         DWORD group = StartsGroup(*control, before) ? WS_GROUP : 0;
-        windows[index] =
-            CreateWindowExW(control->Kind() == ControlKind::TextBox ? WS_EX_CLIENTEDGE : 0, look.windowClass,
-                            L"", WS_CHILD | group | look.style, 0, 0, 0, 0, window_,
-                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(kFirstControlId + index)),
-                            ThisModule(), nullptr);
+        windows[index] = CreateWindowExW(
+            control->Kind() == ControlKind::TextBox ? WS_EX_CLIENTEDGE : 0, look.windowClass, L"",
+            WS_CHILD | group | look.style, 0, 0, 0, 0, window_,
+            reinterpret_cast<HMENU>(static_cast<INT_PTR>(kFirstControlId + index)), ThisModule(), nullptr);
         SendMessageW(windows[index], WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
         before = control;
     }
-    for (std::size_t i = 0; i < windows.size(); ++i) children_.push_back({form_.Controls()[i].get(), windows[i], {}});
+    for (std::size_t i = 0; i < windows.size(); ++i)
+        children_.push_back({form_.Controls()[i].get(), windows[i], {}});
     // A frame draws behind the controls that sit on it, and an outer frame behind the
     // frames inside it, which are declared after it.
     for (auto child = children_.rbegin(); child != children_.rend(); ++child)
@@ -230,7 +252,10 @@ void FormWindow::SyncChild(Child& child) {
             break;
     }
     // A list box has no text of its own; every other kind shows one.
-    if (c.Kind() != ControlKind::ListBox) SetTextIfChanged(w, ShownText(c));
+    if (c.Kind() == ControlKind::Button && c.Caption().empty() && !c.Picture.empty())
+        ShowPicture(w, c.Picture);
+    else if (c.Kind() != ControlKind::ListBox)
+        SetTextIfChanged(w, ShownText(c));
 }
 
 HMENU FormWindow::BuildMenu(const std::string& parent, bool bar) const {

@@ -20,8 +20,8 @@ namespace ui::win32 {
 // values, list rows and the selected row, tooltips, clicks, double clicks, text changes and
 // closing (the form is asked, and its platform destroys the window of an unloaded form),
 // the menu bar and pop-up menus, and the keyboard: Tab moves in the form's Tab order, the
-// arrow keys within an option group. Pictures show their name: the forms name their
-// pictures and carry no images.
+// arrow keys within an option group. A picture button without a caption shows its picture
+// (ui/win32/Pictures.h); a picture box shows its picture's name.
 class FormWindow {
 public:
     explicit FormWindow(Form& form);

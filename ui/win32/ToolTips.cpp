@@ -29,9 +29,9 @@ void ToolTips::Create(HWND form) {
     }();
     (void)initialised;
     form_ = form;
-    window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                              CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, nullptr,
-                              nullptr);
+    window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                              WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
+                              CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, nullptr, nullptr);
 }
 
 void ToolTips::Set(HWND control, const std::string& text) {
@@ -49,8 +49,7 @@ void ToolTips::Set(HWND control, const std::string& text) {
     std::wstring& kept = tips_[control];
     kept = wide;
     TTTOOLINFOW tool = Tool(form_, control, &kept);
-    SendMessageW(window_, added ? TTM_ADDTOOLW : TTM_UPDATETIPTEXTW, 0,
-                 reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(window_, added ? TTM_ADDTOOLW : TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void ToolTips::Destroy() {

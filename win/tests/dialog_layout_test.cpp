@@ -108,7 +108,8 @@ TEST_F(DialogLayoutTest, AControlMovedOntoAnotherOrOutOrAcrossAFrameIsAFault) {
     auto out = Render(preview, [](Form& f) { f["cmdCancel"].Top = f.Height; });
     EXPECT_EQ(Lines(out), "\n  cmdCancel lies outside the window");
     // Half on the frame, half off it: the frame's edge runs through the control.
-    auto across = Render(preview, [](Form& f) { f["Check1"].Top = f["Frame1"].Top + f["Frame1"].Height - 100; });
+    auto across =
+        Render(preview, [](Form& f) { f["Check1"].Top = f["Frame1"].Top + f["Frame1"].Height - 100; });
     EXPECT_EQ(Lines(across), "\n  Frame1 overlaps Check1");
     // A hidden control is in nobody's way until it is shown.
     auto hidden = Render(preview, [](Form& f) {

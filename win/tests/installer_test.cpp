@@ -2,7 +2,6 @@
 // takes away. Judged by files and keys: Wine's exit codes say nothing about a silent
 // install. TARNWELL_INSTALLER names the installer.
 #include <gtest/gtest.h>
-
 #include <shlobj.h>
 
 #include <cstdlib>
@@ -88,7 +87,8 @@ TEST(Installer, InstallsAndRegistersThenUninstallsEverythingButTheSettings) {
     EXPECT_EQ(Value(HKEY_LOCAL_MACHINE, kUninstallKey, L"UninstallString"), L"\"" + uninstaller + L"\"");
     std::string manifest = Contents(ManifestFile());
     EXPECT_NE(manifest.find("<Assembly>" + support::Utf16ToUtf8(dll) + "</Assembly>"), std::string::npos)
-        << "the manifest names the installed DLL:\n" << manifest;
+        << "the manifest names the installed DLL:\n"
+        << manifest;
     EXPECT_NE(manifest.find(support::Utf16ToUtf8(win::server::kAddInClsidText)), std::string::npos);
 
     // The uninstaller runs from a copy of itself and returns at once: wait for its work.

@@ -76,6 +76,7 @@ private:
         Control& names = Place("lstNames", ControlKind::ListBox, "", 3240, 1080, 2400, 1500);
         names.AddItem("Frame");
         names.AddItem("Bracket");
+        Place("cmdBrowse", ControlKind::Button, "", 4560, 120, 480, 375).Picture = "folder";
         AddMenu("mnuFile", "&File");
         AddMenu("mnuOpen", "&Open", "mnuFile");
         AddMenu("mnuRecent", "Recent", "mnuFile").Checked = true;
@@ -213,6 +214,17 @@ TEST_F(FormWindowTest, AControlWithATipShowsItAndTheTipFollowsTheForm) {
     EXPECT_EQ(SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 0);
 }
 
+TEST_F(FormWindowTest, AButtonWithoutACaptionShowsItsPicture) {
+    HWND browse = window.ControlWindow("cmdBrowse");
+    EXPECT_TRUE(GetWindowLongW(browse, GWL_STYLE) & BS_ICON);
+    EXPECT_NE(SendMessageW(browse, BM_GETIMAGE, IMAGE_ICON, 0), 0) << "the system's folder";
+    form["cmdBrowse"].Picture = "collapsed";
+    window.Sync();
+    EXPECT_FALSE(GetWindowLongW(browse, GWL_STYLE) & BS_ICON);
+    EXPECT_EQ(SendMessageW(browse, BM_GETIMAGE, IMAGE_ICON, 0), 0);
+    EXPECT_EQ(Text("cmdBrowse"), L">>");
+}
+
 // Presses Tab where the focus is, as the keyboard does, through the thread's message loop.
 std::string PressTab(const FormWindow& window, const Form& form) {
     PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 0);
@@ -231,9 +243,10 @@ TEST_F(FormWindowTest, TabMovesTheFocusInTheFormsTabOrder) {
     SetForegroundWindow(window.Window());
     SetFocus(window.ControlWindow("chkTop"));
     std::vector<std::string> visited;
-    for (int i = 0; i < 5; ++i) visited.push_back(PressTab(window, form));
+    for (int i = 0; i < 6; ++i) visited.push_back(PressTab(window, form));
     // Frames and labels take no focus; after the last control the first comes again.
-    EXPECT_EQ(visited, (std::vector<std::string>{"cmdGo", "cmdFail", "txtName", "lstNames", "chkTop"}));
+    EXPECT_EQ(visited,
+              (std::vector<std::string>{"cmdGo", "cmdFail", "txtName", "lstNames", "cmdBrowse", "chkTop"}));
 
     window.Destroy();
     form["lstNames"].TabIndex = -1;  // declared first
@@ -242,7 +255,7 @@ TEST_F(FormWindowTest, TabMovesTheFocusInTheFormsTabOrder) {
     SetForegroundWindow(window.Window());
     SetFocus(window.ControlWindow("lstNames"));
     EXPECT_EQ(PressTab(window, form), "chkTop");
-    SetFocus(window.ControlWindow("txtName"));
+    SetFocus(window.ControlWindow("cmdBrowse"));
     EXPECT_EQ(PressTab(window, form), "lstNames");
 }
 
