@@ -9,9 +9,13 @@ namespace ui::win32 {
 namespace {
 constexpr int kShellFolderIcon = 3;  // the closed folder among shell32.dll's icons
 
+// The small one: a button is about as high as a line of text.
 HICON FolderIcon() {
-    static HICON icon = ExtractIconW(GetModuleHandleW(nullptr), L"shell32.dll", kShellFolderIcon);
-    return reinterpret_cast<UINT_PTR>(icon) > 1 ? icon : nullptr;  // 1: not an icon file
+    static HICON icon = [] {
+        HICON small = nullptr;
+        return ExtractIconExW(L"shell32.dll", kShellFolderIcon, nullptr, &small, 1) ? small : nullptr;
+    }();
+    return icon;
 }
 }  // namespace
 
