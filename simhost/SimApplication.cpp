@@ -180,4 +180,39 @@ std::shared_ptr<host::ButtonDefinition> SimSite::CreateButtonDefinition(
     return definition;
 }
 
+std::int32_t SimApplication::Type() const {
+    SIM_HOST_CALL("Application.Type");
+    return kApplicationObjectType;
+}
+
+std::shared_ptr<host::Documents> SimApplication::Documents() {
+    SIM_HOST_CALL("Application.Documents");
+    return documents_;
+}
+
+std::shared_ptr<host::TransactionManager> SimApplication::TransactionManager() {
+    SIM_HOST_CALL("Application.TransactionManager");
+    return transactions_;
+}
+
+std::shared_ptr<host::FileManager> SimApplication::FileManager() {
+    SIM_HOST_CALL("Application.FileManager");
+    return fileManager_;
+}
+
+std::shared_ptr<host::FileLocations> SimApplication::FileLocations() {
+    SIM_HOST_CALL("Application.FileLocations");
+    return fileLocations_;
+}
+
+std::intptr_t SimApplication::MainFrameHWND() const {
+    SIM_HOST_CALL("Application.MainFrameHWND");
+    return kMainFrameHWND;
+}
+
+std::string SimApplication::Caption() const {
+    SIM_HOST_CALL("Application.Caption");
+    return "Autodesk Inventor";
+}
+
 }  // namespace simhost

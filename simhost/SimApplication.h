@@ -31,44 +31,23 @@ private:
 class SimApplication : public host::Application {
 public:
     explicit SimApplication(SimState& state);
-    std::int32_t Type() const override {
-        SIM_HOST_CALL("Application.Type");
-        return kApplicationObjectType;
-    }
+    std::int32_t Type() const override;
     std::shared_ptr<host::Document> ActiveDocument() override;
-    std::shared_ptr<host::Documents> Documents() override {
-        SIM_HOST_CALL("Application.Documents");
-        return documents_;
-    }
+    std::shared_ptr<host::Documents> Documents() override;
     host::ObjectPtr ActiveEditObject() override;
     std::shared_ptr<host::View> ActiveView() override;  // null with no document shown
     std::shared_ptr<host::CommandManager> CommandManager() override;
     std::shared_ptr<host::UserInterfaceManager> UserInterfaceManager() override;
-    std::shared_ptr<host::TransactionManager> TransactionManager() override {
-        SIM_HOST_CALL("Application.TransactionManager");
-        return transactions_;
-    }
-    std::shared_ptr<host::FileManager> FileManager() override {
-        SIM_HOST_CALL("Application.FileManager");
-        return fileManager_;
-    }
-    std::shared_ptr<host::FileLocations> FileLocations() override {
-        SIM_HOST_CALL("Application.FileLocations");
-        return fileLocations_;
-    }
+    std::shared_ptr<host::TransactionManager> TransactionManager() override;
+    std::shared_ptr<host::FileManager> FileManager() override;
+    std::shared_ptr<host::FileLocations> FileLocations() override;
 
     std::string StatusBarText() const override;
     void SetStatusBarText(const std::string& text) override;
     bool SilentOperation() const override;
     void SetSilentOperation(bool silent) override;
-    std::intptr_t MainFrameHWND() const override {
-        SIM_HOST_CALL("Application.MainFrameHWND");
-        return kMainFrameHWND;
-    }
-    std::string Caption() const override {
-        SIM_HOST_CALL("Application.Caption");
-        return "Autodesk Inventor";
-    }
+    std::intptr_t MainFrameHWND() const override;
+    std::string Caption() const override;
     std::int32_t SoftwareVersionMajor() const override;
 
     // An occurrence of the active assembly by names from its top: "Frame:1/Bracket:2".

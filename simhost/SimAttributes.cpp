@@ -118,4 +118,14 @@ std::shared_ptr<host::AttributeSet> SimAttributeSets::Add(const std::string& set
     return std::make_shared<SimAttributeSet>(doc_, setName);
 }
 
+std::string SimAttribute::Name() const {
+    SIM_HOST_CALL("Attribute.Name");
+    return name_;
+}
+
+std::string SimAttributeSet::Name() const {
+    SIM_HOST_CALL("AttributeSet.Name");
+    return name_;
+}
+
 }  // namespace simhost

@@ -14,10 +14,7 @@ class SimAttribute : public host::Attribute {
 public:
     SimAttribute(SimDocumentPtr doc, std::string set, std::string name)
         : doc_(std::move(doc)), set_(std::move(set)), name_(std::move(name)) {}
-    std::string Name() const override {
-        SIM_HOST_CALL("Attribute.Name");
-        return name_;
-    }
+    std::string Name() const override;
     support::Variant Value() const override;
     void SetValue(const support::Variant& value) override;
 
@@ -29,10 +26,7 @@ private:
 class SimAttributeSet : public host::AttributeSet {
 public:
     SimAttributeSet(SimDocumentPtr doc, std::string name) : doc_(std::move(doc)), name_(std::move(name)) {}
-    std::string Name() const override {
-        SIM_HOST_CALL("AttributeSet.Name");
-        return name_;
-    }
+    std::string Name() const override;
     bool NameIsUsed(const std::string& attributeName) const override;
     std::shared_ptr<host::Attribute> Item(const std::string& attributeName) override;
     // Value types: 14595 text, 14593 integer, 14594 double; the value must be of that kind.

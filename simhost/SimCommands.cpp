@@ -195,4 +195,94 @@ void CommandState::Escape() {
     ended->RaiseTerminate();
 }
 
+std::int32_t SimButtonDefinition::Type() const {
+    SIM_HOST_CALL("ButtonDefinition.Type");
+    return kButtonDefinitionObjectType;
+}
+
+std::string SimButtonDefinition::InternalName() const {
+    SIM_HOST_CALL("ButtonDefinition.InternalName");
+    return internalName_;
+}
+
+std::string SimButtonDefinition::DisplayName() const {
+    SIM_HOST_CALL("ButtonDefinition.DisplayName");
+    return displayName_;
+}
+
+bool SimButtonDefinition::HasIcon() const {
+    SIM_HOST_CALL("ButtonDefinition.HasIcon");
+    return icon_;
+}
+
+support::Event<>& SimButtonDefinition::OnExecute() {
+    SIM_HOST_CALL("ButtonDefinition.OnExecute");
+    return onExecute_;
+}
+
+std::int32_t SimCommandBarControl::ControlType() const {
+    SIM_HOST_CALL("CommandBarControl.ControlType");
+    return type_;
+}
+
+std::shared_ptr<host::ButtonDefinition> SimCommandBarControl::ControlDefinition() {
+    SIM_HOST_CALL("CommandBarControl.ControlDefinition");
+    return definition_;
+}
+
+std::int32_t SimCommandBar::Type() const {
+    SIM_HOST_CALL("CommandBar.Type");
+    return kCommandBarObjectType;
+}
+
+std::string SimCommandBar::Name() const {
+    SIM_HOST_CALL("CommandBar.Name");
+    return name_;
+}
+
+std::int32_t SimCommandBar::Count() const {
+    SIM_HOST_CALL("CommandBarControls.Count");
+    return static_cast<std::int32_t>(controls_.size());
+}
+
+void SimSelectEvents::AddSelectionFilter(std::int32_t filter) {
+    SIM_HOST_CALL("SelectEvents.AddSelectionFilter");
+    filters_.push_back(filter);
+}
+
+host::ObjectList SimSelectEvents::SelectedEntities() const {
+    SIM_HOST_CALL("SelectEvents.SelectedEntities");
+    return selected_;
+}
+
+support::Event<const host::ObjectList&>& SimSelectEvents::OnSelect() {
+    SIM_HOST_CALL("SelectEvents.OnSelect");
+    return onSelect_;
+}
+
+support::Event<host::ObjectPtr>& SimSelectEvents::OnPreSelect() {
+    SIM_HOST_CALL("SelectEvents.OnPreSelect");
+    return onPreSelect_;
+}
+
+std::shared_ptr<host::SelectEvents> SimInteractionEvents::SelectEvents() {
+    SIM_HOST_CALL("InteractionEvents.SelectEvents");
+    return select_;
+}
+
+void SimInteractionEvents::SetSelectionEnabled(bool enabled) {
+    SIM_HOST_CALL("InteractionEvents.SetSelectionEnabled");
+    selectionEnabled_ = enabled;
+}
+
+support::Event<>& SimInteractionEvents::OnTerminate() {
+    SIM_HOST_CALL("InteractionEvents.OnTerminate");
+    return onTerminate_;
+}
+
+std::shared_ptr<host::UserInputEvents> CommandState::UserInputEvents() {
+    SIM_HOST_CALL("CommandManager.UserInputEvents");
+    return userInput_;
+}
+
 }  // namespace simhost

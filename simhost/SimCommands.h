@@ -17,26 +17,11 @@ class SimButtonDefinition : public host::ButtonDefinition {
 public:
     SimButtonDefinition(std::string internalName, std::string displayName, bool withIcon)
         : internalName_(std::move(internalName)), displayName_(std::move(displayName)), icon_(withIcon) {}
-    std::int32_t Type() const override {
-        SIM_HOST_CALL("ButtonDefinition.Type");
-        return kButtonDefinitionObjectType;
-    }
-    std::string InternalName() const override {
-        SIM_HOST_CALL("ButtonDefinition.InternalName");
-        return internalName_;
-    }
-    std::string DisplayName() const override {
-        SIM_HOST_CALL("ButtonDefinition.DisplayName");
-        return displayName_;
-    }
-    bool HasIcon() const override {
-        SIM_HOST_CALL("ButtonDefinition.HasIcon");
-        return icon_;
-    }
-    support::Event<>& OnExecute() override {
-        SIM_HOST_CALL("ButtonDefinition.OnExecute");
-        return onExecute_;
-    }
+    std::int32_t Type() const override;
+    std::string InternalName() const override;
+    std::string DisplayName() const override;
+    bool HasIcon() const override;
+    support::Event<>& OnExecute() override;
 
 private:
     std::string internalName_, displayName_;
@@ -48,14 +33,8 @@ class SimCommandBarControl : public host::CommandBarControl {
 public:
     SimCommandBarControl(std::int32_t type, std::shared_ptr<host::ButtonDefinition> definition)
         : type_(type), definition_(std::move(definition)) {}
-    std::int32_t ControlType() const override {
-        SIM_HOST_CALL("CommandBarControl.ControlType");
-        return type_;
-    }
-    std::shared_ptr<host::ButtonDefinition> ControlDefinition() override {
-        SIM_HOST_CALL("CommandBarControl.ControlDefinition");
-        return definition_;
-    }
+    std::int32_t ControlType() const override;
+    std::shared_ptr<host::ButtonDefinition> ControlDefinition() override;
 
 private:
     std::int32_t type_;
@@ -67,20 +46,11 @@ class SimCommandBar : public host::CommandBar,
                       public std::enable_shared_from_this<SimCommandBar> {
 public:
     explicit SimCommandBar(std::string name) : name_(std::move(name)) {}
-    std::int32_t Type() const override {
-        SIM_HOST_CALL("CommandBar.Type");
-        return kCommandBarObjectType;
-    }
-    std::string Name() const override {
-        SIM_HOST_CALL("CommandBar.Name");
-        return name_;
-    }
+    std::int32_t Type() const override;
+    std::string Name() const override;
     std::shared_ptr<host::CommandBarControls> Controls() override;
     // CommandBarControls: buttons only (control type 22785), appended at the end.
-    std::int32_t Count() const override {
-        SIM_HOST_CALL("CommandBarControls.Count");
-        return static_cast<std::int32_t>(controls_.size());
-    }
+    std::int32_t Count() const override;
     std::shared_ptr<host::CommandBarControl> Item(std::int32_t index) override;
     std::shared_ptr<host::CommandBarControl> Add(std::int32_t controlType,
                                                  std::shared_ptr<host::ButtonDefinition> definition) override;
@@ -94,23 +64,11 @@ class CommandState;
 
 class SimSelectEvents : public host::SelectEvents {
 public:
-    void AddSelectionFilter(std::int32_t filter) override {
-        SIM_HOST_CALL("SelectEvents.AddSelectionFilter");
-        filters_.push_back(filter);
-    }
-    host::ObjectList SelectedEntities() const override {
-        SIM_HOST_CALL("SelectEvents.SelectedEntities");
-        return selected_;
-    }
+    void AddSelectionFilter(std::int32_t filter) override;
+    host::ObjectList SelectedEntities() const override;
     void ResetPreSelection() override { SIM_HOST_CALL("SelectEvents.ResetPreSelection"); }
-    support::Event<const host::ObjectList&>& OnSelect() override {
-        SIM_HOST_CALL("SelectEvents.OnSelect");
-        return onSelect_;
-    }
-    support::Event<host::ObjectPtr>& OnPreSelect() override {
-        SIM_HOST_CALL("SelectEvents.OnPreSelect");
-        return onPreSelect_;
-    }
+    support::Event<const host::ObjectList&>& OnSelect() override;
+    support::Event<host::ObjectPtr>& OnPreSelect() override;
 
     bool SelectsOccurrences() const;
     void Select(const host::ObjectList& entities);
@@ -126,20 +84,11 @@ class SimInteractionEvents : public host::InteractionEvents,
                              public std::enable_shared_from_this<SimInteractionEvents> {
 public:
     explicit SimInteractionEvents(CommandState& commands) : commands_(commands) {}
-    std::shared_ptr<host::SelectEvents> SelectEvents() override {
-        SIM_HOST_CALL("InteractionEvents.SelectEvents");
-        return select_;
-    }
-    void SetSelectionEnabled(bool enabled) override {
-        SIM_HOST_CALL("InteractionEvents.SetSelectionEnabled");
-        selectionEnabled_ = enabled;
-    }
+    std::shared_ptr<host::SelectEvents> SelectEvents() override;
+    void SetSelectionEnabled(bool enabled) override;
     void Start() override;
     void Stop() override;
-    support::Event<>& OnTerminate() override {
-        SIM_HOST_CALL("InteractionEvents.OnTerminate");
-        return onTerminate_;
-    }
+    support::Event<>& OnTerminate() override;
 
     bool SelectionEnabled() const { return selectionEnabled_; }
     SimSelectEvents& Selection() { return *select_; }
@@ -177,10 +126,7 @@ public:
     std::shared_ptr<host::CommandBar> Add(const std::string& name) override;
     // CommandManager
     std::shared_ptr<host::InteractionEvents> CreateInteractionEvents() override;
-    std::shared_ptr<host::UserInputEvents> UserInputEvents() override {
-        SIM_HOST_CALL("CommandManager.UserInputEvents");
-        return userInput_;
-    }
+    std::shared_ptr<host::UserInputEvents> UserInputEvents() override;
     // UserInterfaceManager
     std::shared_ptr<host::CommandBars> CommandBars() override;
 

@@ -494,4 +494,34 @@ void SimDocument::RequireStorableValue(const support::Variant& value) const {
     if (const auto* text = value.As<std::string>()) RequireStorable(*text);
 }
 
+std::string SimDocument::FullFileName() const {
+    SIM_HOST_CALL("Document.FullFileName");
+    return fullFileName_;
+}
+
+std::int32_t SimDocument::DocumentType() const {
+    SIM_HOST_CALL("Document.DocumentType");
+    return DocumentTypeOf(data_.kind);
+}
+
+bool SimDocument::Dirty() const {
+    SIM_HOST_CALL("Document.Dirty");
+    return dirty_;
+}
+
+void SimDocument::SetDirty(bool dirty) {
+    SIM_HOST_CALL("Document.SetDirty");
+    dirty_ = dirty;
+}
+
+std::int32_t SimDocument::DisabledCommandTypes() const {
+    SIM_HOST_CALL("Document.DisabledCommandTypes");
+    return data_.disabledCommandTypes;
+}
+
+std::int32_t SimDocument::SoftwareVersionSaved() const {
+    SIM_HOST_CALL("Document.SoftwareVersionSaved");
+    return data_.savedBy;
+}
+
 }  // namespace simhost

@@ -74,39 +74,21 @@ public:
 
     // --- host::Document
     std::int32_t Type() const override;
-    std::string FullFileName() const override {
-        SIM_HOST_CALL("Document.FullFileName");
-        return fullFileName_;
-    }
+    std::string FullFileName() const override;
     std::string DisplayName() const override;
     void SetDisplayName(const std::string& name) override;
-    std::int32_t DocumentType() const override {
-        SIM_HOST_CALL("Document.DocumentType");
-        return DocumentTypeOf(data_.kind);
-    }
+    std::int32_t DocumentType() const override;
     void SaveAs(const std::string& fullFileName, bool saveCopyAs) override;
     void Save() override;
     void Close(bool skipSave = false) override;
-    bool Dirty() const override {
-        SIM_HOST_CALL("Document.Dirty");
-        return dirty_;
-    }
-    void SetDirty(bool dirty) override {
-        SIM_HOST_CALL("Document.SetDirty");
-        dirty_ = dirty;
-    }
+    bool Dirty() const override;
+    void SetDirty(bool dirty) override;
     bool IsModifiable() const override;
     bool ReservedForWrite() const override;
     std::string ReservedForWriteName() const override;
-    std::int32_t DisabledCommandTypes() const override {
-        SIM_HOST_CALL("Document.DisabledCommandTypes");
-        return data_.disabledCommandTypes;
-    }
+    std::int32_t DisabledCommandTypes() const override;
     void SetDisabledCommandTypes(std::int32_t types) override;
-    std::int32_t SoftwareVersionSaved() const override {
-        SIM_HOST_CALL("Document.SoftwareVersionSaved");
-        return data_.savedBy;
-    }
+    std::int32_t SoftwareVersionSaved() const override;
     bool NeedsMigrating() const override;
     std::shared_ptr<host::PropertySets> PropertySets() override;
     std::shared_ptr<host::UnitsOfMeasure> UnitsOfMeasure() override;

@@ -319,4 +319,19 @@ bool SimPropertySets::PropertySetExists(const std::string& nameOrId) const {
     return FindSet(doc_->Data(), nameOrId) >= 0;
 }
 
+std::string SimProperty::DisplayName() const {
+    SIM_HOST_CALL("Property.DisplayName");
+    return Name();
+}
+
+std::int32_t SimProperty::PropId() const {
+    SIM_HOST_CALL("Property.PropId");
+    return propId_;
+}
+
+std::string SimPropertySet::InternalName() const {
+    SIM_HOST_CALL("PropertySet.InternalName");
+    return formatId_;
+}
+
 }  // namespace simhost

@@ -17,14 +17,8 @@ public:
     SimProperty(SimDocumentPtr doc, std::string formatId, std::int32_t propId)
         : doc_(std::move(doc)), formatId_(std::move(formatId)), propId_(propId) {}
     std::string Name() const override;
-    std::string DisplayName() const override {
-        SIM_HOST_CALL("Property.DisplayName");
-        return Name();
-    }
-    std::int32_t PropId() const override {
-        SIM_HOST_CALL("Property.PropId");
-        return propId_;
-    }
+    std::string DisplayName() const override;
+    std::int32_t PropId() const override;
     support::Variant Value() const override;
     void SetValue(const support::Variant& value) override;
     void Delete() override;
@@ -41,10 +35,7 @@ public:
         : doc_(std::move(doc)), formatId_(std::move(formatId)) {}
     std::string Name() const override;
     std::string DisplayName() const override;
-    std::string InternalName() const override {
-        SIM_HOST_CALL("PropertySet.InternalName");
-        return formatId_;
-    }
+    std::string InternalName() const override;
     std::int32_t Count() const override;
     std::shared_ptr<host::Property> Item(std::int32_t position) override;
     std::shared_ptr<host::Property> Item(const std::string& name) override;

@@ -91,4 +91,9 @@ std::intptr_t SimView::HWND() const {
     return kMainFrameHWND + 0x10;
 }
 
+std::shared_ptr<host::Camera> SimView::Camera() {
+    SIM_HOST_CALL("View.Camera");
+    return std::make_shared<SimCamera>(doc_);
+}
+
 }  // namespace simhost

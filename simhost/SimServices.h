@@ -61,10 +61,7 @@ class SimView : public host::View {
 public:
     explicit SimView(SimDocumentPtr doc) : doc_(std::move(doc)) {}
     std::intptr_t HWND() const override;
-    std::shared_ptr<host::Camera> Camera() override {
-        SIM_HOST_CALL("View.Camera");
-        return std::make_shared<SimCamera>(doc_);
-    }
+    std::shared_ptr<host::Camera> Camera() override;
 
 private:
     SimDocumentPtr doc_;

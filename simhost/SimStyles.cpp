@@ -211,4 +211,169 @@ std::shared_ptr<host::RenderStyle> SimRenderStyles::Add(const std::string& name)
     return std::make_shared<SimRenderStyle>(doc_, name);
 }
 
+std::string SimRenderStyle::Name() const {
+    SIM_HOST_CALL("RenderStyle.Name");
+    return name_;
+}
+
+double SimRenderStyle::Opacity() const {
+    SIM_HOST_CALL("RenderStyle.Opacity");
+    return Style().opacity;
+}
+
+void SimRenderStyle::SetOpacity(double value) {
+    SIM_HOST_CALL("RenderStyle.SetOpacity");
+    Edit().opacity = value;
+}
+
+double SimRenderStyle::Shininess() const {
+    SIM_HOST_CALL("RenderStyle.Shininess");
+    return Style().shininess;
+}
+
+void SimRenderStyle::SetShininess(double value) {
+    SIM_HOST_CALL("RenderStyle.SetShininess");
+    Edit().shininess = value;
+}
+
+std::string SimRenderStyle::TextureFilename() const {
+    SIM_HOST_CALL("RenderStyle.TextureFilename");
+    return Style().texture;
+}
+
+double SimRenderStyle::TextureScale() const {
+    SIM_HOST_CALL("RenderStyle.TextureScale");
+    return Style().textureScale;
+}
+
+void SimRenderStyle::SetTextureScale(double value) {
+    SIM_HOST_CALL("RenderStyle.SetTextureScale");
+    Edit().textureScale = value;
+}
+
+double SimRenderStyle::TextureRotation() const {
+    SIM_HOST_CALL("RenderStyle.TextureRotation");
+    return Style().textureRotation;
+}
+
+void SimRenderStyle::SetTextureRotation(double value) {
+    SIM_HOST_CALL("RenderStyle.SetTextureRotation");
+    Edit().textureRotation = value;
+}
+
+host::Rgb SimRenderStyle::GetAmbientColor() const {
+    SIM_HOST_CALL("RenderStyle.GetAmbientColor");
+    return Style().ambient;
+}
+
+void SimRenderStyle::SetAmbientColor(host::Rgb color) {
+    SIM_HOST_CALL("RenderStyle.SetAmbientColor");
+    Edit().ambient = color;
+}
+
+host::Rgb SimRenderStyle::GetDiffuseColor() const {
+    SIM_HOST_CALL("RenderStyle.GetDiffuseColor");
+    return Style().diffuse;
+}
+
+void SimRenderStyle::SetDiffuseColor(host::Rgb color) {
+    SIM_HOST_CALL("RenderStyle.SetDiffuseColor");
+    Edit().diffuse = color;
+}
+
+host::Rgb SimRenderStyle::GetSpecularColor() const {
+    SIM_HOST_CALL("RenderStyle.GetSpecularColor");
+    return Style().specular;
+}
+
+void SimRenderStyle::SetSpecularColor(host::Rgb color) {
+    SIM_HOST_CALL("RenderStyle.SetSpecularColor");
+    Edit().specular = color;
+}
+
+host::Rgb SimRenderStyle::GetEmissiveColor() const {
+    SIM_HOST_CALL("RenderStyle.GetEmissiveColor");
+    return Style().emissive;
+}
+
+void SimRenderStyle::SetEmissiveColor(host::Rgb color) {
+    SIM_HOST_CALL("RenderStyle.SetEmissiveColor");
+    Edit().emissive = color;
+}
+
+std::string SimMaterial::Name() const {
+    SIM_HOST_CALL("Material.Name");
+    return name_;
+}
+
+double SimMaterial::LinearExpansion() const {
+    SIM_HOST_CALL("Material.LinearExpansion");
+    return Data().values.linearExpansion;
+}
+
+void SimMaterial::SetLinearExpansion(double value) {
+    SIM_HOST_CALL("Material.SetLinearExpansion");
+    Edit().values.linearExpansion = value;
+}
+
+double SimMaterial::PoissonsRatio() const {
+    SIM_HOST_CALL("Material.PoissonsRatio");
+    return Data().values.poissonsRatio;
+}
+
+void SimMaterial::SetPoissonsRatio(double value) {
+    SIM_HOST_CALL("Material.SetPoissonsRatio");
+    Edit().values.poissonsRatio = value;
+}
+
+double SimMaterial::SpecificHeat() const {
+    SIM_HOST_CALL("Material.SpecificHeat");
+    return Data().values.specificHeat;
+}
+
+void SimMaterial::SetSpecificHeat(double value) {
+    SIM_HOST_CALL("Material.SetSpecificHeat");
+    Edit().values.specificHeat = value;
+}
+
+double SimMaterial::ThermalConductivity() const {
+    SIM_HOST_CALL("Material.ThermalConductivity");
+    return Data().values.thermalConductivity;
+}
+
+void SimMaterial::SetThermalConductivity(double value) {
+    SIM_HOST_CALL("Material.SetThermalConductivity");
+    Edit().values.thermalConductivity = value;
+}
+
+double SimMaterial::UltimateTensileStrength() const {
+    SIM_HOST_CALL("Material.UltimateTensileStrength");
+    return Data().values.ultimateTensileStrength;
+}
+
+void SimMaterial::SetUltimateTensileStrength(double value) {
+    SIM_HOST_CALL("Material.SetUltimateTensileStrength");
+    Edit().values.ultimateTensileStrength = value;
+}
+
+double SimMaterial::YieldStrength() const {
+    SIM_HOST_CALL("Material.YieldStrength");
+    return Data().values.yieldStrength;
+}
+
+void SimMaterial::SetYieldStrength(double value) {
+    SIM_HOST_CALL("Material.SetYieldStrength");
+    Edit().values.yieldStrength = value;
+}
+
+double SimMaterial::YoungsModulus() const {
+    SIM_HOST_CALL("Material.YoungsModulus");
+    return Data().values.youngsModulus;
+}
+
+void SimMaterial::SetYoungsModulus(double value) {
+    SIM_HOST_CALL("Material.SetYoungsModulus");
+    Edit().values.youngsModulus = value;
+}
+
 }  // namespace simhost
