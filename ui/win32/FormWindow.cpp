@@ -374,6 +374,14 @@ LRESULT CALLBACK FormWindow::WindowProc(HWND window, UINT message, WPARAM wParam
                 else if (HIWORD(wParam) == 0)
                     self->OnMenu(LOWORD(wParam));
                 return 0;
+            case WM_ACTIVATE:
+                // As a dialog box does: the keyboard starts at the first control that takes
+                // it, unless the focus is on one of ours already.
+                if (LOWORD(wParam) != WA_INACTIVE && !IsChild(window, GetFocus())) {
+                    if (HWND first = GetNextDlgTabItem(window, nullptr, FALSE)) SetFocus(first);
+                    return 0;
+                }
+                break;
             case WM_CLOSE:
                 // The form may refuse (Form_QueryUnload); the platform destroys the window
                 // of a form that unloads.

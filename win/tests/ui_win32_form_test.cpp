@@ -241,7 +241,7 @@ std::string PressTab(const FormWindow& window, const Form& form) {
 TEST_F(FormWindowTest, TabMovesTheFocusInTheFormsTabOrder) {
     ShowWindow(window.Window(), SW_SHOW);
     SetForegroundWindow(window.Window());
-    SetFocus(window.ControlWindow("chkTop"));
+    EXPECT_EQ(GetFocus(), window.ControlWindow("chkTop")) << "a shown form starts at its first control";
     std::vector<std::string> visited;
     for (int i = 0; i < 6; ++i) visited.push_back(PressTab(window, form));
     // Frames and labels take no focus; after the last control the first comes again.
