@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -18,7 +19,7 @@ namespace {
 struct Box {
     std::string name;
     RECT rect;
-    bool frame;
+    ControlKind kind;
 };
 
 bool Inside(const RECT& inner, const RECT& outer) {
@@ -32,12 +33,47 @@ std::vector<Box> ShownControls(const Form& form, const FormWindow& window) {
     for (const auto& control : form.Controls()) {
         HWND w = window.ControlWindow(control->Name());
         if (!(GetWindowLongW(w, GWL_STYLE) & WS_VISIBLE)) continue;
-        Box box{control->Name(), {}, control->Kind() == ControlKind::Frame};
+        Box box{control->Name(), {}, control->Kind()};
         GetWindowRect(w, &box.rect);
         MapWindowPoints(nullptr, window.Window(), reinterpret_cast<POINT*>(&box.rect), 2);
         boxes.push_back(box);
     }
     return boxes;
+}
+
+// Room a control leaves beside its caption: a button's edges, a check box's box, a frame's
+// corners.
+int CaptionMargin(ControlKind kind) {
+    switch (kind) {
+        case ControlKind::Button:
+            return 8;
+        case ControlKind::CheckBox:
+        case ControlKind::OptionButton:
+            return 20;
+        case ControlKind::Frame:
+            return 16;
+        default:
+            return 0;
+    }
+}
+
+// A caption too wide for its control is cut off, or wraps out of sight when the control
+// has room for one line only.
+bool CaptionFits(HWND w, ControlKind kind) {
+    if (kind == ControlKind::TextBox || kind == ControlKind::ComboBox || kind == ControlKind::ListBox) return true;
+    wchar_t text[256] = L"";
+    int length = GetWindowTextW(w, text, 256);
+    if (length == 0) return true;
+    HDC dc = GetDC(w);
+    HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(w, WM_GETFONT, 0, 0)));
+    SIZE size{};
+    GetTextExtentPoint32W(dc, text, length, &size);
+    SelectObject(dc, old);
+    ReleaseDC(w, dc);
+    RECT r;
+    GetClientRect(w, &r);
+    int lines = kind == ControlKind::Label ? std::max<int>(1, r.bottom / std::max<int>(1, size.cy)) : 1;
+    return size.cx <= (r.right - CaptionMargin(kind)) * lines;
 }
 
 std::vector<std::string> LayoutFaults(const Form& form, const FormWindow& window) {
@@ -48,10 +84,12 @@ std::vector<std::string> LayoutFaults(const Form& form, const FormWindow& window
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         const Box& a = boxes[i];
         if (!Inside(a.rect, client)) faults.push_back(a.name + " lies outside the window");
+        if (!CaptionFits(window.ControlWindow(a.name), a.kind)) faults.push_back(a.name + "'s caption does not fit");
         for (std::size_t j = i + 1; j < boxes.size(); ++j) {
             const Box& b = boxes[j];
             RECT common;
-            bool onFrame = (a.frame && Inside(b.rect, a.rect)) || (b.frame && Inside(a.rect, b.rect));
+            bool onFrame = (a.kind == ControlKind::Frame && Inside(b.rect, a.rect)) ||
+                           (b.kind == ControlKind::Frame && Inside(a.rect, b.rect));
             if (IntersectRect(&common, &a.rect, &b.rect) && !onFrame)
                 faults.push_back(a.name + " overlaps " + b.name);
         }
@@ -101,7 +139,7 @@ TEST_F(DialogLayoutTest, EveryDialogShowsEachControlInsideItsWindowAndOverNoOthe
     }
 }
 
-TEST_F(DialogLayoutTest, AControlMovedOntoAnotherOrOutOrAcrossAFrameIsAFault) {
+TEST_F(DialogLayoutTest, AControlMovedOntoAnotherOutAcrossAFrameOrTooNarrowIsAFault) {
     Form& preview = Dialog("frmPreview");
     auto onto = Render(preview, [](Form& f) { f["cmdTopLevel"].Left = f["cmdSelect"].Left + 300; });
     EXPECT_EQ(Lines(onto), "\n  cmdSelect overlaps cmdTopLevel");
@@ -111,6 +149,8 @@ TEST_F(DialogLayoutTest, AControlMovedOntoAnotherOrOutOrAcrossAFrameIsAFault) {
     auto across =
         Render(preview, [](Form& f) { f["Check1"].Top = f["Frame1"].Top + f["Frame1"].Height - 100; });
     EXPECT_EQ(Lines(across), "\n  Frame1 overlaps Check1");
+    auto narrow = Render(preview, [](Form& f) { f["cmdDeleteInvisible"].Width = 900; });
+    EXPECT_EQ(Lines(narrow), "\n  cmdDeleteInvisible's caption does not fit");
     // A hidden control is in nobody's way until it is shown.
     auto hidden = Render(preview, [](Form& f) {
         f["picLocked"].Visible = true;
