@@ -91,14 +91,21 @@ TEST(Installer, InstallsAndRegistersThenUninstallsEverythingButTheSettings) {
         << manifest;
     EXPECT_NE(manifest.find(support::Utf16ToUtf8(win::server::kAddInClsidText)), std::string::npos);
 
-    // The uninstaller runs from a copy of itself and returns at once: wait for its work.
+    // The uninstaller runs from a copy of itself and returns at once: wait for the last of
+    // its work, the removal of its own key, which comes after the files.
     RunAndWait(L"\"" + uninstaller + L"\" /S");
-    for (int i = 0; i < 300 && Exists(kFolder); ++i) Sleep(100);
+    auto uninstallKeyLeft = [] {
+        HKEY probe;
+        if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, kUninstallKey.c_str(), 0, KEY_READ, &probe) != ERROR_SUCCESS)
+            return false;
+        RegCloseKey(probe);
+        return true;
+    };
+    for (int i = 0; i < 300 && (Exists(kFolder) || uninstallKeyLeft()); ++i) Sleep(100);
     EXPECT_FALSE(Exists(kFolder)) << "a file of ours was left";
     EXPECT_FALSE(Exists(ManifestFile())) << "the manifest was left";
     EXPECT_FALSE(Value(HKEY_CLASSES_ROOT, clsidKey, nullptr)) << "the add-in is still registered";
-    HKEY probe;
-    EXPECT_NE(RegOpenKeyExW(HKEY_LOCAL_MACHINE, kUninstallKey.c_str(), 0, KEY_READ, &probe), ERROR_SUCCESS);
+    EXPECT_FALSE(uninstallKeyLeft()) << "the uninstaller's key was left";
     EXPECT_EQ(Value(HKEY_CURRENT_USER, kSettingsKey, L"TargetDir"), L"D:\\Packed") << "the settings are kept";
     win::server::DeleteKeyTree(HKEY_CURRENT_USER, L"Software\\VB and VBA Program Settings\\Tarnwell");
 }
