@@ -79,8 +79,7 @@ TEST(SessionVerbs, AnActionAtAYieldIsCheckedAsALineOfItsOwn) {
               "the count starts at 1; usage: at yield COUNT: ACTION");
     EXPECT_EQ(Find("at yield 3 click frmPurge.cmdStop"),
               "expected a count and a colon; usage: at yield COUNT: ACTION");
-    EXPECT_EQ(Find("at yield 3: clik frmPurge.cmdStop"),
-              "unknown verb \"clik\" (did you mean click?)");
+    EXPECT_EQ(Find("at yield 3: clik frmPurge.cmdStop"), "unknown verb \"clik\" (did you mean click?)");
     EXPECT_EQ(Find("at yield 3: click"), "too few words; usage: click FORM.CONTROL[(INDEX)]");
 }
 

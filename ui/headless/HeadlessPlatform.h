@@ -1,8 +1,8 @@
 #pragma once
-#include <optional>
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 

@@ -107,11 +107,14 @@ TEST(VariantConversion, ArraysOfObjectsKeepEachObjectAndNothing) {
     };
     {
         ComPtr<Empty> first = DispatchObject<>::Make<Empty>(), second = DispatchObject<>::Make<Empty>();
-        auto wrap = [](IDispatch* object) { return Variant(std::make_shared<ComObject>(ComPtr<IDispatch>(object))); };
+        auto wrap = [](IDispatch* object) {
+            return Variant(std::make_shared<ComObject>(ComPtr<IDispatch>(object)));
+        };
         for (VARTYPE type : {VARTYPE(VT_DISPATCH), VARTYPE(VT_VARIANT)}) {
             auto objects = std::make_shared<Array>(
-                type, 1, std::vector<Variant>{wrap(first.Get()), Variant(std::shared_ptr<support::Object>()),
-                                              wrap(second.Get())});
+                type, 1,
+                std::vector<Variant>{wrap(first.Get()), Variant(std::shared_ptr<support::Object>()),
+                                     wrap(second.Get())});
             ComVariant com{Variant(objects)};
             EXPECT_EQ(V_VT(&com.Get()), VT_ARRAY | type);
             Variant back = FromVariant(com.Get());

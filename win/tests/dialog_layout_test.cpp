@@ -60,7 +60,8 @@ int CaptionMargin(ControlKind kind) {
 // A caption too wide for its control is cut off, or wraps out of sight when the control
 // has room for one line only.
 bool CaptionFits(HWND w, ControlKind kind) {
-    if (kind == ControlKind::TextBox || kind == ControlKind::ComboBox || kind == ControlKind::ListBox) return true;
+    if (kind == ControlKind::TextBox || kind == ControlKind::ComboBox || kind == ControlKind::ListBox)
+        return true;
     wchar_t text[256] = L"";
     int length = GetWindowTextW(w, text, 256);
     if (length == 0) return true;
@@ -84,7 +85,8 @@ std::vector<std::string> LayoutFaults(const Form& form, const FormWindow& window
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         const Box& a = boxes[i];
         if (!Inside(a.rect, client)) faults.push_back(a.name + " lies outside the window");
-        if (!CaptionFits(window.ControlWindow(a.name), a.kind)) faults.push_back(a.name + "'s caption does not fit");
+        if (!CaptionFits(window.ControlWindow(a.name), a.kind))
+            faults.push_back(a.name + "'s caption does not fit");
         for (std::size_t j = i + 1; j < boxes.size(); ++j) {
             const Box& b = boxes[j];
             RECT common;
